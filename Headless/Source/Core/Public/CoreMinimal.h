@@ -1,0 +1,28 @@
+// The engine's minimal include set: platform types, containers, strings, names, text, math and
+// logging. Reflection (UObject/...) is not part of it.
+#pragma once
+
+#include "CoreTypes.h"
+#include "Misc/EnumClassFlags.h"
+#include "Templates/UnrealTemplate.h"
+#include "Templates/TypeHash.h"
+#include "Templates/Tuple.h"
+#include "Templates/Function.h"
+#include "Templates/SharedPointer.h"
+#include "Templates/UniquePtr.h"
+#include "Math/NumericLimits.h"
+#include "Math/UnrealMathUtility.h"
+#include "Math/Vector2D.h"
+#include "Math/IntPoint.h"
+#include "Math/Color.h"
+#include "Misc/Optional.h"
+#include "Containers/Array.h"
+#include "Containers/Map.h"
+#include "Containers/Set.h"
+#include "Containers/UnrealString.h"
+#include "Containers/StringView.h"
+#include "Misc/CString.h"
+#include "Misc/Char.h"
+#include "UObject/NameTypes.h"
+#include "Internationalization/Text.h"
+#include "Logging/LogMacros.h"

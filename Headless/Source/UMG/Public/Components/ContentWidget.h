@@ -1,0 +1,13 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Components/PanelWidget.h"
+
+#include "ContentWidget.generated.h"
+
+/** A panel with at most one child. */
+UCLASS(Abstract)
+class UMG_API UContentWidget : public UPanelWidget
+{
+	GENERATED_BODY()
+};

@@ -1,0 +1,3 @@
+#include "QuorvelLog.h"
+
+DEFINE_LOG_CATEGORY(LogQuorvel);

@@ -1,0 +1,25 @@
+using UnrealBuildTool;
+
+public class QuorvelUI : ModuleRules
+{
+	public QuorvelUI(ReadOnlyTargetRules Target) : base(Target)
+	{
+		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
+
+		PublicDependencyModuleNames.AddRange(new string[]
+		{
+			"Core",
+			"CoreUObject",
+			"Engine",
+			"UMG",
+			"QuorvelCore",
+		});
+
+		PrivateDependencyModuleNames.AddRange(new string[]
+		{
+			"Json",
+			"Slate",
+			"SlateCore",
+		});
+	}
+}
