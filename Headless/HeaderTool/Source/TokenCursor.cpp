@@ -98,7 +98,7 @@ namespace HeaderTool
 	}
 
 	std::vector<FToken> FTokenCursor::Until(std::initializer_list<std::string_view> Terminators, const FToken& Opening,
-		std::string_view OpeningWhat)
+		std::string_view OpeningWhat, bool bEndTerminates)
 	{
 		std::vector<FToken> Result;
 		std::vector<const char*> Closers;
@@ -132,6 +132,10 @@ namespace HeaderTool
 				Closers.pop_back();
 			}
 			Result.push_back(Next());
+		}
+		if (bEndTerminates && Closers.empty())
+		{
+			return Result;
 		}
 		Fail(Opening, std::string(OpeningWhat) + " is not closed");
 	}
@@ -169,6 +173,34 @@ namespace HeaderTool
 			{
 				Result += ' ';
 			}
+		}
+		return Result;
+	}
+
+	std::string Unquote(const FToken& Token)
+	{
+		const std::string& Text = Token.Text;
+		if (Token.Kind != ETokenKind::String)
+		{
+			return Text;
+		}
+		const size_t Open = Text.find('"');
+		if (Open > 0 && Text[Open - 1] == 'R')
+		{
+			const size_t Paren = Text.find('(', Open);
+			const size_t Close = Text.rfind(')');
+			return Text.substr(Paren + 1, Close - Paren - 1);
+		}
+		std::string Result;
+		for (size_t Index = Open + 1; Index + 1 < Text.size(); ++Index)
+		{
+			char C = Text[Index];
+			if (C == '\\' && Index + 2 < Text.size())
+			{
+				C = Text[++Index];
+				C = C == 'n' ? '\n' : C == 't' ? '\t' : C;
+			}
+			Result += C;
 		}
 		return Result;
 	}

@@ -38,9 +38,10 @@ namespace HeaderTool
 		const FToken& ExpectIdentifier(std::string_view What);
 
 		// Consumes tokens up to, not including, the first of Terminators found outside (), [] and {}.
-		// Throws at Opening when the brackets close early or the file ends first.
+		// Throws at Opening when the brackets close early or the tokens run out first, unless
+		// bEndTerminates (for a cursor over a slice, such as one parameter list).
 		std::vector<FToken> Until(std::initializer_list<std::string_view> Terminators, const FToken& Opening,
-			std::string_view OpeningWhat);
+			std::string_view OpeningWhat, bool bEndTerminates = false);
 
 		// Consumes a balanced group that starts at the next token ("(", "[" or "{") through its closer.
 		std::vector<FToken> Group();
@@ -56,4 +57,7 @@ namespace HeaderTool
 
 	// Tokens joined back into text: a space between two words and after commas, none elsewhere.
 	std::string JoinTokens(const std::vector<FToken>& Tokens);
+
+	// A string literal's text without prefix, quotes or escapes; any other token's text unchanged.
+	std::string Unquote(const FToken& Token);
 }

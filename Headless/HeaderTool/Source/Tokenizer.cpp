@@ -410,12 +410,12 @@ namespace HeaderTool
 					while (Pos < Source.size())
 					{
 						const char N = Source[Pos];
-						const char Prev = Source[Pos - 1];
+						const char Prev = Pos > Start ? Source[Pos - 1] : '\0';
 						if (IsIdentChar(N) || N == '.' || N == '\'')
 						{
 							Advance();
 						}
-						else if ((N == '+' || N == '-') && Pos > Start
+						else if ((N == '+' || N == '-')
 							&& (Prev == 'e' || Prev == 'E' || Prev == 'p' || Prev == 'P'))
 						{
 							Advance();

@@ -1,0 +1,10 @@
+#pragma once
+
+USTRUCT()
+struct FFunctionInStruct
+{
+	GENERATED_BODY()
+
+	UFUNCTION()
+	void NotAllowed();
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+USTRUCT()
+struct FMissingSemicolon
+{
+	GENERATED_BODY()
+}
+
+USTRUCT()
+struct FNext
+{
+	GENERATED_BODY()
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+UCLASS()
+class UMissingGeneratedBody : public UObject
+{
+public:
+	UPROPERTY()
+	int32 Count;
+};

@@ -1,0 +1,8 @@
+#pragma once
+
+USTRUCT(BlueprintType)
+struct FMissingGeneratedBody
+{
+	UPROPERTY()
+	int32 Count;
+};

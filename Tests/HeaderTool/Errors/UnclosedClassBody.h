@@ -1,0 +1,11 @@
+#pragma once
+
+UCLASS()
+class UUnclosed : public UObject
+{
+	GENERATED_BODY()
+
+	void Body()
+	{
+		const char* Text = "}";
+	}

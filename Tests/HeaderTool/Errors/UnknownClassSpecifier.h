@@ -1,0 +1,7 @@
+#pragma once
+
+UCLASS(Blueprintable, Abstrakt)
+class UUnknownSpecifier : public UObject
+{
+	GENERATED_BODY()
+};

@@ -1,0 +1,8 @@
+#pragma once
+
+/** Never closed.
+UCLASS()
+class UUnterminated : public UObject
+{
+	GENERATED_BODY()
+};
