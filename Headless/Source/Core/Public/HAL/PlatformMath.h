@@ -1,0 +1,5 @@
+#pragma once
+
+#include "GenericPlatform/GenericPlatformMath.h"
+
+typedef FGenericPlatformMath FPlatformMath;
