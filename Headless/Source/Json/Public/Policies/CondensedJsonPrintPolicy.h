@@ -1,0 +1,20 @@
+// Output without any whitespace between tokens.
+#pragma once
+
+#include "Policies/JsonPrintPolicy.h"
+
+template <class CharType>
+struct TCondensedJsonPrintPolicy : public TJsonPrintPolicy<CharType>
+{
+	static inline void WriteLineTerminator(FString* Stream)
+	{
+	}
+
+	static inline void WriteTabs(FString* Stream, int32 Count)
+	{
+	}
+
+	static inline void WriteSpace(FString* Stream)
+	{
+	}
+};
