@@ -260,6 +260,19 @@ namespace HeaderTool
 			{
 				FTokenCursor::Fail(Token, "dynamic delegates must be declared at namespace scope");
 			}
+			else if (Token.Is(Decl.Name) && Cursor.Peek(1).Is("("))
+			{
+				if constexpr (std::is_same_v<TDecl, FClassDecl>)
+				{
+					Decl.bDeclaresConstructor = true;
+				}
+				Cursor.Next();
+			}
+			else if (Token.Is("~") && Cursor.Peek(1).Is(Decl.Name))
+			{
+				Cursor.Next();
+				Cursor.Next();
+			}
 			else if (Token.Is("{") || Token.Is("(") || Token.Is("["))
 			{
 				Cursor.Group();

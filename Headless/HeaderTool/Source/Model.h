@@ -106,6 +106,7 @@ namespace HeaderTool
 		FKeyValues MetaData;                 // DisplayName, ToolTip, ...
 		std::vector<FPropertyDecl> Properties;
 		std::vector<FFunctionDecl> Functions;
+		bool bDeclaresConstructor = false;   // any constructor of its own; otherwise the tool writes the initializer one
 		int GeneratedBodyLine = 0;
 		FLocation Location;
 	};

@@ -1,0 +1,22 @@
+// Everything CoreUObject offers, in one include.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/ObjectMacros.h"
+#include "UObject/Object.h"
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectArray.h"
+#include "UObject/ObjectPtr.h"
+#include "UObject/WeakObjectPtr.h"
+#include "UObject/WeakObjectPtrTemplates.h"
+#include "UObject/SoftObjectPath.h"
+#include "UObject/SoftObjectPtr.h"
+#include "UObject/LazyObjectPtr.h"
+#include "UObject/ScriptDelegates.h"
+#include "UObject/ScriptMacros.h"
+#include "UObject/Stack.h"
+#include "Templates/Casts.h"
+#include "Templates/SubclassOf.h"
