@@ -1,0 +1,2 @@
+// The Slate module: the widget library and the application that lays out and paints windows.
+#include "Modules/ModuleManager.h"
