@@ -1,0 +1,45 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+
+namespace StashPanelTest
+{
+	/** The names of a class's own registered properties, in declaration order. */
+	inline TArray<FString> OwnPropertyNames(const UClass* Class)
+	{
+		TArray<FString> Names;
+		for (TFieldIterator<FProperty> It(Class, EFieldIteratorFlags::ExcludeSuper); It; ++It)
+		{
+			Names.Add(It->GetName());
+		}
+		return Names;
+	}
+
+	inline FProperty* FindPropertyChecked(const UClass* Class, const TCHAR* Name)
+	{
+		FProperty* Property = Class->FindPropertyByName(FName(Name));
+		check(Property != nullptr);
+		return Property;
+	}
+
+	template<typename T>
+	const T& ValueOf(const UObject* Object, const TCHAR* Name)
+	{
+		return *FindPropertyChecked(Object->GetClass(), Name)->ContainerPtrToValuePtr<T>(Object);
+	}
+}
+
+#include "Containers/StringConv.h"
+
+#include <string>
+
+namespace StashPanelTest
+{
+	/** FString compares without regard to case; tests compare exact text through this. */
+	inline std::string Utf8(const FString& Text)
+	{
+		return std::string(TCHAR_TO_UTF8(*Text));
+	}
+}
