@@ -3,7 +3,8 @@
 set(QuorvelSDKSource "${CMAKE_SOURCE_DIR}/Plugins/QuorvelSDK/Source")
 
 quorvel_add_module(QuorvelCore DIR "${QuorvelSDKSource}/QuorvelCore"
-	DEPS Core CoreUObject DeveloperSettings Json)
+	DEPS Core CoreUObject DeveloperSettings Json
+	PRIVATE_DEPS HTTP)
 quorvel_add_module(QuorvelUI DIR "${QuorvelSDKSource}/QuorvelUI"
 	DEPS Core CoreUObject Engine UMG QuorvelCore
 	PRIVATE_DEPS Json SlateCore)

@@ -1,6 +1,258 @@
 #include "QuorvelClient.h"
 
+#include "Containers/Ticker.h"
+#include "Dom/JsonObject.h"
+#include "HttpModule.h"
+#include "Interfaces/IHttpRequest.h"
+#include "Interfaces/IHttpResponse.h"
+#include "Math/UnrealMathUtility.h"
 #include "Misc/Guid.h"
+#include "QuorvelLog.h"
+#include "QuorvelSettings.h"
+#include "Serialization/JsonReader.h"
+#include "Serialization/JsonSerializer.h"
+
+namespace UE::Quorvel::Private
+{
+	/** One Send across all its attempts. The settings are read once, so every attempt follows the same rules. */
+	struct FPendingRequest
+	{
+		FString Verb;
+		FString Path;
+		FString Url;
+		FString Body;
+		FString AccessToken;
+		FString IdempotencyKey;
+		FQuorvelClient::FCompletion Completion;
+
+		float TimeoutSeconds = 0.0f;
+		int32 MaxRetries = 0;
+		float RetryBaseDelaySeconds = 0.0f;
+		float RetryMaxDelaySeconds = 0.0f;
+		int32 RetriesDone = 0;
+	};
+
+	using FPendingRequestRef = TSharedRef<FPendingRequest, ESPMode::ThreadSafe>;
+
+	/** What one attempt came to. */
+	struct FAttemptOutcome
+	{
+		bool bSuccess = false;
+		TSharedPtr<FJsonObject> Reply;
+		FQuorvelError Error;
+		/** The wait the platform asked for with Retry-After; negative when it asked for none. */
+		float RetryAfterSeconds = -1.0f;
+	};
+
+	void StartAttempt(const FPendingRequestRef& Pending);
+
+	TSharedPtr<FJsonObject> ParseObject(const FString& Text)
+	{
+		TSharedPtr<FJsonObject> Object;
+		if (!FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(Text), Object))
+		{
+			return nullptr;
+		}
+		return Object;
+	}
+
+	/** Only the delay-seconds form; a date is ignored and the usual backoff applies. */
+	float ParseRetryAfter(const FString& HeaderValue)
+	{
+		const FString Value = HeaderValue.TrimStartAndEnd();
+		if (Value.IsEmpty())
+		{
+			return -1.0f;
+		}
+		for (const TCHAR Character : Value)
+		{
+			if (!FChar::IsDigit(Character))
+			{
+				return -1.0f;
+			}
+		}
+		return static_cast<float>(FCString::Atoi(*Value));
+	}
+
+	/** The statuses that say "not now" rather than "not this request". */
+	bool IsRetryableStatus(const int32 Status)
+	{
+		return Status == EHttpResponseCodes::TooManyRequests
+			|| Status == EHttpResponseCodes::BadGateway
+			|| Status == EHttpResponseCodes::ServiceUnavail
+			|| Status == EHttpResponseCodes::GatewayTimeout;
+	}
+
+	void SetClientError(FQuorvelError& Error, const TCHAR* Code, const FString& Message, const bool bRetryable)
+	{
+		Error.Code = Code;
+		Error.Message = Message;
+		Error.bRetryable = bRetryable;
+	}
+
+	FAttemptOutcome ReadNoReply(const EHttpFailureReason Reason)
+	{
+		FAttemptOutcome Outcome;
+		switch (Reason)
+		{
+		case EHttpFailureReason::ConnectionError:
+			SetClientError(Outcome.Error, TEXT("connection_failed"), TEXT("Could not connect to the platform."), true);
+			break;
+		case EHttpFailureReason::TimedOut:
+			SetClientError(Outcome.Error, TEXT("timeout"), TEXT("The platform did not answer in time."), true);
+			break;
+		case EHttpFailureReason::Cancelled:
+			SetClientError(Outcome.Error, TEXT("cancelled"), TEXT("The request was cancelled."), false);
+			break;
+		default:
+			SetClientError(Outcome.Error, TEXT("request_failed"), TEXT("The request could not be sent."), false);
+			break;
+		}
+		return Outcome;
+	}
+
+	FAttemptOutcome ReadReply(const IHttpResponse& Response)
+	{
+		FAttemptOutcome Outcome;
+		const int32 Status = Response.GetResponseCode();
+		TSharedPtr<FJsonObject> Object = ParseObject(Response.GetContentAsString());
+		Outcome.Error.HttpStatus = Status;
+		Outcome.Error.RequestId = Response.GetHeader(TEXT("X-Request-Id"));
+
+		if (EHttpResponseCodes::IsOk(Status))
+		{
+			if (Object.IsValid())
+			{
+				Outcome.bSuccess = true;
+				Outcome.Reply = MoveTemp(Object);
+				Outcome.Error = FQuorvelError();
+			}
+			else
+			{
+				SetClientError(Outcome.Error, TEXT("invalid_reply"), TEXT("The platform's reply was not a JSON object."), false);
+			}
+			return Outcome;
+		}
+
+		Outcome.Error.bRetryable = IsRetryableStatus(Status);
+		Outcome.RetryAfterSeconds = ParseRetryAfter(Response.GetHeader(TEXT("Retry-After")));
+		const TSharedPtr<FJsonObject>* ErrorObject = nullptr;
+		if (Object.IsValid() && Object->TryGetObjectField(TEXT("error"), ErrorObject))
+		{
+			(*ErrorObject)->TryGetStringField(TEXT("code"), Outcome.Error.Code);
+			(*ErrorObject)->TryGetStringField(TEXT("message"), Outcome.Error.Message);
+		}
+		// A proxy or a crashed server answers without the platform's error record.
+		if (Outcome.Error.Code.IsEmpty() && Outcome.Error.Message.IsEmpty())
+		{
+			Outcome.Error.Code = TEXT("http_error");
+			Outcome.Error.Message = FString::Printf(TEXT("The platform answered with HTTP status %d."), Status);
+		}
+		return Outcome;
+	}
+
+	/** Exponential backoff with jitter, at least what the platform asked for; negative to give up. */
+	float RetryDelay(const FPendingRequest& Pending, const float RetryAfterSeconds)
+	{
+		// The platform asks for more patience than the project grants: report the failure now.
+		if (RetryAfterSeconds > Pending.RetryMaxDelaySeconds)
+		{
+			return -1.0f;
+		}
+		const int32 Exponent = FMath::Min(Pending.RetriesDone, 30);
+		const float Backoff = FMath::Min(Pending.RetryBaseDelaySeconds * static_cast<float>(1 << Exponent), Pending.RetryMaxDelaySeconds);
+		// Never below half the backoff, so that clients that failed together still spread out.
+		const float Jittered = Backoff * FMath::FRandRange(0.5f, 1.0f);
+		return FMath::Max(Jittered, RetryAfterSeconds);
+	}
+
+	void Finish(const FPendingRequestRef& Pending, FAttemptOutcome&& Outcome)
+	{
+		// Moved out first, so that nothing the completion does can reach it a second time.
+		FQuorvelClient::FCompletion Completion = MoveTemp(Pending->Completion);
+		Pending->Completion = nullptr;
+		if (Completion)
+		{
+			Completion(Outcome.bSuccess, MoveTemp(Outcome.Reply), MoveTemp(Outcome.Error));
+		}
+	}
+
+	void OnAttemptComplete(const FPendingRequestRef& Pending, const FHttpRequestPtr& Request, const FHttpResponsePtr& Response, const bool bConnectedSuccessfully)
+	{
+		FAttemptOutcome Outcome = bConnectedSuccessfully && Response.IsValid()
+			? ReadReply(*Response)
+			: ReadNoReply(Request.IsValid() ? Request->GetFailureReason() : EHttpFailureReason::Other);
+
+		if (!Outcome.bSuccess && Outcome.Error.bRetryable && Pending->RetriesDone < Pending->MaxRetries)
+		{
+			const float Delay = RetryDelay(*Pending, Outcome.RetryAfterSeconds);
+			if (Delay >= 0.0f)
+			{
+				++Pending->RetriesDone;
+				UE_LOG(LogQuorvel, Verbose, TEXT("%s %s failed with %s (HTTP %d); retry %d of %d in %.2f s"),
+					*Pending->Verb, *Pending->Path, *Outcome.Error.Code, Outcome.Error.HttpStatus, Pending->RetriesDone, Pending->MaxRetries, Delay);
+				// Scheduled on the core ticker rather than waited for, so the game thread keeps running.
+				FTSTicker::GetCoreTicker().AddTicker(TEXT("QuorvelClientRetry"), Delay, [Pending](float)
+				{
+					StartAttempt(Pending);
+					return false;
+				});
+				return;
+			}
+		}
+		Finish(Pending, MoveTemp(Outcome));
+	}
+
+	void StartAttempt(const FPendingRequestRef& Pending)
+	{
+		const FHttpRequestRef Request = FHttpModule::Get().CreateRequest();
+		Request->SetVerb(Pending->Verb);
+		Request->SetURL(Pending->Url);
+		Request->SetHeader(TEXT("Content-Type"), TEXT("application/json"));
+		Request->SetHeader(TEXT("Accept"), TEXT("application/json"));
+		if (!Pending->AccessToken.IsEmpty())
+		{
+			Request->SetHeader(TEXT("Authorization"), TEXT("Bearer ") + Pending->AccessToken);
+		}
+		// Every attempt carries the same key, so the platform applies the operation once.
+		if (!Pending->IdempotencyKey.IsEmpty())
+		{
+			Request->SetHeader(TEXT("Idempotency-Key"), Pending->IdempotencyKey);
+		}
+		Request->SetContentAsString(Pending->Body);
+		if (Pending->TimeoutSeconds > 0.0f)
+		{
+			Request->SetTimeout(Pending->TimeoutSeconds);
+		}
+		Request->OnProcessRequestComplete().BindLambda([Pending](FHttpRequestPtr CompletedRequest, FHttpResponsePtr Response, bool bConnectedSuccessfully)
+		{
+			OnAttemptComplete(Pending, CompletedRequest, Response, bConnectedSuccessfully);
+		});
+		// A request that cannot start still completes, as failed, at the next tick of the HTTP manager.
+		Request->ProcessRequest();
+	}
+}
+
+void FQuorvelClient::Send(const FString& Method, const FString& Path, const FString& Body, const FString& AccessToken,
+	const FString& IdempotencyKey, FCompletion Completion)
+{
+	using namespace UE::Quorvel::Private;
+
+	const UQuorvelSettings& Settings = UQuorvelSettings::Get();
+	const FPendingRequestRef Pending = MakeShared<FPendingRequest, ESPMode::ThreadSafe>();
+	Pending->Verb = Method;
+	Pending->Path = Path;
+	Pending->Url = Settings.BaseUrl + Path;
+	Pending->Body = Body;
+	Pending->AccessToken = AccessToken;
+	Pending->IdempotencyKey = IdempotencyKey;
+	Pending->Completion = MoveTemp(Completion);
+	Pending->TimeoutSeconds = Settings.RequestTimeoutSeconds;
+	Pending->MaxRetries = FMath::Max(Settings.MaxRetries, 0);
+	Pending->RetryBaseDelaySeconds = FMath::Max(Settings.RetryBaseDelaySeconds, 0.0f);
+	Pending->RetryMaxDelaySeconds = FMath::Max(Settings.RetryMaxDelaySeconds, 0.0f);
+	StartAttempt(Pending);
+}
 
 FString FQuorvelClient::NewIdempotencyKey()
 {
