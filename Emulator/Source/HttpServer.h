@@ -1,0 +1,30 @@
+// Carries platform requests over HTTP: POST with JSON bodies, "Authorization: Bearer <token>",
+// "Idempotency-Key", and an "X-Request-Id" on every reply so a client can quote it.
+#pragma once
+
+#include <httplib.h>
+
+#include <string>
+
+namespace quorvel::emulator
+{
+	class Platform;
+
+	class HttpServer
+	{
+	public:
+		explicit HttpServer(Platform& platform, bool logRequests = false);
+
+		/** Binds at once, so that clients may connect before run(); port 0 lets the system pick.
+		    Returns the port, or throws when the address cannot be bound. */
+		int bind(const std::string& host, int port);
+
+		/** Serves until stop(); call after bind(). */
+		void run();
+		void stop();
+
+	private:
+		Platform& platform;
+		httplib::Server server;
+	};
+}

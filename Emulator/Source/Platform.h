@@ -1,0 +1,30 @@
+// The platform behind the HTTP server: routes a request to its operation, checks the session,
+// applies idempotency keys and turns refusals into error replies. One request at a time.
+#pragma once
+
+#include "Database.h"
+#include "Reply.h"
+
+#include <mutex>
+#include <string>
+
+namespace quorvel::emulator
+{
+	class Platform
+	{
+	public:
+		/** Opens (or creates) the database and its tables. */
+		explicit Platform(const std::string& databasePath);
+
+		Reply handle(const Request& request);
+
+		/** For setting up state before serving; not for use while requests run. */
+		Database& database() { return db; }
+
+	private:
+		Reply handleAuthenticated(const Request& request);
+
+		std::mutex mutex;
+		Database db;
+	};
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "RequestFields.h"
+
+#include <string>
+
+namespace quorvel::emulator
+{
+	/** One platform request, as far as the platform cares: transport details are the server's. */
+	struct Request
+	{
+		std::string path;
+		std::string authorization;
+		std::string idempotencyKey;
+		std::string body;
+	};
+
+	struct Reply
+	{
+		int status = 200;
+		Json body;
+		/** The reply was stored for this idempotency key and is sent again, not recomputed. */
+		bool replayed = false;
+	};
+}

@@ -1,0 +1,62 @@
+#include "Schema.h"
+
+#include "Database.h"
+
+namespace quorvel::emulator
+{
+	void createSchema(Database& database)
+	{
+		database.execute(R"sql(
+			CREATE TABLE IF NOT EXISTS players (
+				id       TEXT PRIMARY KEY,
+				provider TEXT NOT NULL,
+				subject  TEXT NOT NULL,
+				UNIQUE (provider, subject)
+			);
+
+			CREATE TABLE IF NOT EXISTS sessions (
+				token      TEXT PRIMARY KEY,
+				player_id  TEXT NOT NULL REFERENCES players (id),
+				expires_at INTEGER NOT NULL
+			);
+
+			-- The layout is chosen once, when the container is created, and never changes.
+			CREATE TABLE IF NOT EXISTS containers (
+				id         TEXT PRIMARY KEY,
+				player_id  TEXT NOT NULL REFERENCES players (id),
+				kind       TEXT NOT NULL,
+				layout     TEXT NOT NULL CHECK (layout IN ('grid', 'slots')),
+				width      INTEGER NOT NULL,
+				height     INTEGER NOT NULL,
+				slot_count INTEGER NOT NULL,
+				UNIQUE (player_id, kind)
+			);
+
+			-- base_w x base_h is the item's unrotated footprint; a grid stack covers it swapped
+			-- when rotated. Slot stacks keep x and y at -1, grid stacks keep slot_index at -1.
+			CREATE TABLE IF NOT EXISTS stacks (
+				id           TEXT PRIMARY KEY,
+				container_id TEXT NOT NULL REFERENCES containers (id),
+				item_id      TEXT NOT NULL,
+				quantity     INTEGER NOT NULL CHECK (quantity > 0),
+				x            INTEGER NOT NULL,
+				y            INTEGER NOT NULL,
+				slot_index   INTEGER NOT NULL,
+				rotated      INTEGER NOT NULL,
+				base_w       INTEGER NOT NULL,
+				base_h       INTEGER NOT NULL
+			);
+			CREATE INDEX IF NOT EXISTS stacks_by_container ON stacks (container_id);
+
+			CREATE TABLE IF NOT EXISTS idempotent_replies (
+				player_id TEXT NOT NULL,
+				key       TEXT NOT NULL,
+				path      TEXT NOT NULL,
+				request   TEXT NOT NULL,
+				status    INTEGER NOT NULL,
+				reply     TEXT NOT NULL,
+				PRIMARY KEY (player_id, key)
+			);
+		)sql");
+	}
+}

@@ -1,0 +1,68 @@
+#include "Seed.h"
+
+#include "Accounts.h"
+#include "Containers.h"
+#include "Database.h"
+#include "Ids.h"
+#include "ItemCatalog.h"
+#include "Placement.h"
+#include "Store.h"
+
+#include <array>
+
+namespace quorvel::emulator
+{
+	namespace
+	{
+		struct SeedStack
+		{
+			const char* itemId;
+			int quantity;
+			int x;
+			int y;
+			bool rotated;
+		};
+
+		constexpr std::array<SeedStack, 8> demoStacks{{
+			{"rifle", 1, 0, 0, false},
+			{"medkit", 2, 4, 0, false},
+			{"ammo_556", 60, 6, 0, false},
+			{"bandage", 5, 7, 0, false},
+			{"water", 3, 8, 0, false},
+			{"backpack", 1, 0, 2, false},
+			{"pistol", 1, 3, 2, true},
+			{"ration", 4, 5, 2, false},
+		}};
+	}
+
+	int seedDemoStash(Database& database)
+	{
+		Transaction transaction(database);
+		const std::string playerId = playerFor(database, "anonymous", "demo_account");
+		const Container stash = ensureContainer(database, playerId, "stash", "grid", 10, 8, 24);
+		std::vector<Stack> stacks = stacksIn(database, stash.id);
+		if (!stacks.empty())
+		{
+			return 0;
+		}
+		for (const SeedStack& seed : demoStacks)
+		{
+			const ItemDefinition item = *findItem(seed.itemId);
+			Stack stack{
+				.id = newId("inst"),
+				.containerId = stash.id,
+				.itemId = seed.itemId,
+				.quantity = seed.quantity,
+				.baseWidth = item.width,
+				.baseHeight = item.height,
+			};
+			// A stash made earlier as slots gets the same stacks in its first free slots.
+			const Json cell{{"x", seed.x}, {"y", seed.y}, {"rotated", seed.rotated}};
+			applyPlacement(stack, placeStack(stash, stacks, stack, stash.isSlots() ? nullptr : &cell));
+			insertStack(database, stack);
+			stacks.push_back(stack);
+		}
+		transaction.commit();
+		return static_cast<int>(stacks.size());
+	}
+}
