@@ -1,0 +1,90 @@
+#include "EmulatorTestServer.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvel::emulator::test
+{
+	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath)
+		: platform(databasePath), server(platform)
+	{
+		const int port = server.bind("127.0.0.1", 0);
+		thread = std::thread([this] { server.run(); });
+		client = std::make_unique<httplib::Client>("127.0.0.1", port);
+		client->set_read_timeout(10, 0);
+		// httplib's stop() only acts on a server whose accept loop runs; a first reply shows it does.
+		token = signIn("tester");
+	}
+
+	EmulatorTestServer::~EmulatorTestServer()
+	{
+		server.stop();
+		thread.join();
+	}
+
+	HttpReply EmulatorTestServer::postText(const std::string& path, const std::string& body, const std::string& accessToken,
+		const std::string& idempotencyKey)
+	{
+		httplib::Headers headers;
+		if (!accessToken.empty())
+		{
+			headers.emplace("Authorization", "Bearer " + accessToken);
+		}
+		if (!idempotencyKey.empty())
+		{
+			headers.emplace("Idempotency-Key", idempotencyKey);
+		}
+		const httplib::Result result = client->Post(path.c_str(), headers, body, "application/json");
+		if (!result)
+		{
+			ADD_FAILURE() << "no reply to " << path << ": " << httplib::to_string(result.error());
+			return {};
+		}
+		return HttpReply{
+			.status = result->status,
+			.body = Json::parse(result->body, nullptr, false),
+			.requestId = result->get_header_value("X-Request-Id"),
+			.replayed = result->get_header_value("Idempotent-Replayed") == "true",
+		};
+	}
+
+	HttpReply EmulatorTestServer::post(const std::string& path, const Json& body, const std::string& accessToken,
+		const std::string& idempotencyKey)
+	{
+		return postText(path, body.dump(), accessToken, idempotencyKey);
+	}
+
+	std::string EmulatorTestServer::signIn(const std::string& ticket)
+	{
+		const HttpReply reply = post("/v1/game/sessions", {{"provider", "anonymous"}, {"ticket", ticket}});
+		EXPECT_EQ(reply.status, 200) << reply.body;
+		return reply.body.value("/tokens/access_token"_json_pointer, std::string());
+	}
+
+	Json EmulatorTestServer::ensureGrid(const std::string& accessToken, const std::string& kind, int width, int height)
+	{
+		const HttpReply reply = post("/v1/game/containers/ensure",
+			{{"kind", kind}, {"layout", "grid"}, {"grid_width", width}, {"grid_height", height}}, accessToken);
+		EXPECT_EQ(reply.status, 200) << reply.body;
+		return reply.body;
+	}
+
+	Json EmulatorTestServer::ensureSlots(const std::string& accessToken, const std::string& kind, int slots)
+	{
+		const HttpReply reply = post("/v1/game/containers/ensure",
+			{{"kind", kind}, {"layout", "slots"}, {"slot_count", slots}}, accessToken);
+		EXPECT_EQ(reply.status, 200) << reply.body;
+		return reply.body;
+	}
+
+	const Json* findStack(const Json& container, const std::string& instanceId)
+	{
+		for (const Json& stack : container.at("items"))
+		{
+			if (stack.at("id") == instanceId)
+			{
+				return &stack;
+			}
+		}
+		return nullptr;
+	}
+}

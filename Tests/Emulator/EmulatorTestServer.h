@@ -1,0 +1,55 @@
+// The emulator on 127.0.0.1 and a port the system picks, with a client that speaks its protocol.
+#pragma once
+
+#include "HttpServer.h"
+#include "Platform.h"
+
+#include <httplib.h>
+
+#include <string>
+#include <thread>
+
+namespace quorvel::emulator::test
+{
+	struct HttpReply
+	{
+		int status = 0;
+		Json body;
+		std::string requestId;
+		bool replayed = false;
+
+		std::string errorCode() const { return body.at("error").at("code").get<std::string>(); }
+	};
+
+	class EmulatorTestServer
+	{
+	public:
+		/** Serves a fresh in-memory platform, or the given database file. Signs in the player
+		    "tester" before returning, which also proves the server is accepting. */
+		explicit EmulatorTestServer(const std::string& databasePath = ":memory:");
+		~EmulatorTestServer();
+
+		HttpReply postText(const std::string& path, const std::string& body, const std::string& token = {},
+			const std::string& idempotencyKey = {});
+		HttpReply post(const std::string& path, const Json& body, const std::string& token = {},
+			const std::string& idempotencyKey = {});
+
+		/** The access token of a fresh session for the ticket. */
+		std::string signIn(const std::string& ticket);
+
+		/** The container reply of an ensure that asks for a grid or for slots. */
+		Json ensureGrid(const std::string& token, const std::string& kind, int width, int height);
+		Json ensureSlots(const std::string& token, const std::string& kind, int slots);
+
+		Platform platform;
+		std::string token; // the tester's
+
+	private:
+		HttpServer server;
+		std::thread thread;
+		std::unique_ptr<httplib::Client> client;
+	};
+
+	/** The stacks of a container reply whose "id" is instanceId; null when absent. */
+	const Json* findStack(const Json& container, const std::string& instanceId);
+}
