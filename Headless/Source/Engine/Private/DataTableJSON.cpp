@@ -27,6 +27,92 @@ namespace
 			return TEXT("null");
 		}
 	}
+	// The quoted arguments of Macro("a", "b"), backslash escapes resolved; false unless the whole
+	// text is one such call.
+	bool ReadMacroArguments(const FString& Text, const TCHAR* Macro, TArray<FString>& OutArguments)
+	{
+		OutArguments.Reset();
+		if (!Text.StartsWith(Macro, ESearchCase::CaseSensitive))
+		{
+			return false;
+		}
+		int32 Index = FString(Macro).Len();
+		auto SkipSpaces = [&Text, &Index]()
+		{
+			while (Index < Text.Len() && FChar::IsWhitespace(Text[Index]))
+			{
+				++Index;
+			}
+		};
+		SkipSpaces();
+		if (Index >= Text.Len() || Text[Index] != TEXT('('))
+		{
+			return false;
+		}
+		++Index;
+		for (;;)
+		{
+			SkipSpaces();
+			if (Index >= Text.Len() || Text[Index] != TEXT('"'))
+			{
+				return false;
+			}
+			++Index;
+			FString Argument;
+			bool bClosed = false;
+			while (Index < Text.Len() && !bClosed)
+			{
+				const TCHAR Char = Text[Index++];
+				if (Char == TEXT('\\') && Index < Text.Len())
+				{
+					Argument.AppendChar(Text[Index++]);
+				}
+				else if (Char == TEXT('"'))
+				{
+					bClosed = true;
+				}
+				else
+				{
+					Argument.AppendChar(Char);
+				}
+			}
+			if (!bClosed)
+			{
+				return false;
+			}
+			OutArguments.Add(MoveTemp(Argument));
+			SkipSpaces();
+			if (Index < Text.Len() && Text[Index] == TEXT(','))
+			{
+				++Index;
+				continue;
+			}
+			if (Index < Text.Len() && Text[Index] == TEXT(')'))
+			{
+				++Index;
+				SkipSpaces();
+				return Index == Text.Len();
+			}
+			return false;
+		}
+	}
+
+	// The engine exports a localisable text as NSLOCTEXT("Namespace", "Key", "Source") and a
+	// culture-invariant one as INVTEXT("Source"); any other string is the text itself.
+	FText TextFromExport(const FString& Value)
+	{
+		const FString Trimmed = Value.TrimStartAndEnd();
+		TArray<FString> Arguments;
+		if (ReadMacroArguments(Trimmed, TEXT("NSLOCTEXT"), Arguments) && Arguments.Num() == 3)
+		{
+			return FText::AsLocalizable_Advanced(Arguments[0], Arguments[1], MoveTemp(Arguments[2]));
+		}
+		if (ReadMacroArguments(Trimmed, TEXT("INVTEXT"), Arguments) && Arguments.Num() == 1)
+		{
+			return FText::AsCultureInvariant(MoveTemp(Arguments[0]));
+		}
+		return FText::FromString(Value);
+	}
 }
 
 FDataTableImporterJSON::FDataTableImporterJSON(UDataTable& InDataTable, TArray<FString>& OutProblems)
@@ -171,7 +257,7 @@ bool FDataTableImporterJSON::ReadValue(const FJsonValue& Value, const FProperty*
 			Problems.Add(FString::Printf(TEXT("%s: expected text, found %s."), *Where, *DescribeJson(Value)));
 			return false;
 		}
-		*static_cast<FText*>(Data) = FText::FromString(Text);
+		*static_cast<FText*>(Data) = TextFromExport(Text);
 		return true;
 	}
 	if (CastField<FBoolProperty>(Property))

@@ -632,9 +632,11 @@ public:
 		return Index;
 	}
 
+	// The _GetRef forms take the index first: adding may move the elements.
 	ElementType& AddDefaulted_GetRef()
 	{
-		return GetData()[AddDefaulted()];
+		const SizeType Index = AddDefaulted();
+		return GetData()[Index];
 	}
 
 	SizeType AddZeroed(SizeType Count = 1)
@@ -646,7 +648,8 @@ public:
 
 	ElementType& AddZeroed_GetRef()
 	{
-		return GetData()[AddZeroed()];
+		const SizeType Index = AddZeroed();
+		return GetData()[Index];
 	}
 
 	// Arguments may refer into this array: the new element is built before the old storage goes away.
@@ -673,7 +676,8 @@ public:
 	template <typename... ArgsType>
 	ElementType& Emplace_GetRef(ArgsType&&... Args)
 	{
-		return GetData()[Emplace(Forward<ArgsType>(Args)...)];
+		const SizeType Index = Emplace(Forward<ArgsType>(Args)...);
+		return GetData()[Index];
 	}
 
 	FORCEINLINE SizeType Add(const ElementType& Item)
@@ -688,12 +692,14 @@ public:
 
 	ElementType& Add_GetRef(const ElementType& Item)
 	{
-		return GetData()[Emplace(Item)];
+		const SizeType Index = Emplace(Item);
+		return GetData()[Index];
 	}
 
 	ElementType& Add_GetRef(ElementType&& Item)
 	{
-		return GetData()[Emplace(MoveTempIfPossible(Item))];
+		const SizeType Index = Emplace(MoveTempIfPossible(Item));
+		return GetData()[Index];
 	}
 
 	SizeType AddUnique(const ElementType& Item)

@@ -98,13 +98,14 @@ public:
 	{
 	}
 
+	/** Null as well when the object at the path is not a T. */
 	T* Get() const
 	{
-		return (T*)SoftObjectPtr.Get();
+		return AsT(SoftObjectPtr.Get());
 	}
 	T* LoadSynchronous() const
 	{
-		return (T*)SoftObjectPtr.LoadSynchronous();
+		return AsT(SoftObjectPtr.LoadSynchronous());
 	}
 	T* operator->() const
 	{
@@ -168,6 +169,13 @@ public:
 	}
 
 private:
+	// A template so that UObject need not be complete where this header is included.
+	template<class U>
+	static T* AsT(U* Object)
+	{
+		return Object && Object->IsA(T::StaticClass()) ? static_cast<T*>(Object) : nullptr;
+	}
+
 	FSoftObjectPtr SoftObjectPtr;
 };
 
