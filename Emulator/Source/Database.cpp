@@ -107,11 +107,6 @@ namespace quorvel::emulator
 		return sqlite3_column_int64(statement, column);
 	}
 
-	bool Statement::isNull(int column) const
-	{
-		return sqlite3_column_type(statement, column) == SQLITE_NULL;
-	}
-
 	Transaction::Transaction(Database& database)
 		: database(database)
 	{

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -50,7 +49,6 @@ namespace quorvel::emulator
 
 		std::string text(int column) const;
 		std::int64_t integer(int column) const;
-		bool isNull(int column) const;
 
 	private:
 		Database& database;

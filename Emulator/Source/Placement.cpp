@@ -9,6 +9,16 @@ namespace quorvel::emulator
 {
 	namespace
 	{
+		std::string sizeText(int w, int h)
+		{
+			return std::to_string(w) + "x" + std::to_string(h);
+		}
+
+		std::string cellText(int x, int y)
+		{
+			return std::to_string(x) + ", " + std::to_string(y);
+		}
+
 		Placement placeInSlots(const Container& container, const std::vector<Stack>& others, const Json* to)
 		{
 			std::set<int> taken;
@@ -123,16 +133,14 @@ namespace quorvel::emulator
 				const bool rotated = optionalBool(*to, "rotated").value_or(stack.rotated);
 				const int w = rotated ? stack.baseHeight : stack.baseWidth;
 				const int h = rotated ? stack.baseWidth : stack.baseHeight;
-				const std::string where = "(" + std::to_string(*x) + ", " + std::to_string(*y) + ")";
 				if (!occupancy.fitsInside(*x, *y, w, h))
 				{
-					throw unprocessable("out_of_bounds", "a " + std::to_string(w) + "x" + std::to_string(h) + " stack at "
-						+ where + " does not fit in the " + std::to_string(container.width) + "x"
-						+ std::to_string(container.height) + " grid");
+					throw unprocessable("out_of_bounds", sizeText(w, h) + " stack at cell " + cellText(*x, *y)
+						+ " does not fit in the " + sizeText(container.width, container.height) + " grid");
 				}
 				if (!occupancy.isFree(*x, *y, w, h))
 				{
-					throw conflict("cell_occupied", "the cells at " + where + " are occupied");
+					throw conflict("cell_occupied", "cell " + cellText(*x, *y) + " is occupied");
 				}
 				return Placement{.x = *x, .y = *y, .rotated = rotated};
 			}
@@ -148,8 +156,7 @@ namespace quorvel::emulator
 					return *fit;
 				}
 			}
-			throw conflict("container_full", "no free space fits a " + std::to_string(stack.width()) + "x"
-				+ std::to_string(stack.height()) + " stack");
+			throw conflict("container_full", "no free space fits a " + sizeText(stack.width(), stack.height()) + " stack");
 		}
 	}
 
