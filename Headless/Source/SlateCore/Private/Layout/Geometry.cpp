@@ -127,14 +127,14 @@ bool FGeometry::IsUnderLocation(const FVector2D& AbsoluteCoordinate) const
 	return Local.X >= 0.0 && Local.Y >= 0.0 && Local.X <= Size.X && Local.Y <= Size.Y;
 }
 
-FVector2D FGeometry::AbsoluteToLocal(FVector2D AbsoluteCoordinate) const
+UE::Slate::FDeprecateVector2DResult FGeometry::AbsoluteToLocal(UE::Slate::FDeprecateVector2DParameter AbsoluteCoordinate) const
 {
-	return FVector2D(TransformPoint(Inverse(AccumulatedRenderTransform), FVector2f(AbsoluteCoordinate)));
+	return TransformPoint(Inverse(AccumulatedRenderTransform), FVector2f(AbsoluteCoordinate));
 }
 
-FVector2D FGeometry::LocalToAbsolute(FVector2D LocalCoordinate) const
+UE::Slate::FDeprecateVector2DResult FGeometry::LocalToAbsolute(UE::Slate::FDeprecateVector2DParameter LocalCoordinate) const
 {
-	return FVector2D(TransformPoint(AccumulatedRenderTransform, FVector2f(LocalCoordinate)));
+	return TransformPoint(AccumulatedRenderTransform, FVector2f(LocalCoordinate));
 }
 
 FSlateRect FGeometry::GetLayoutBoundingRect() const

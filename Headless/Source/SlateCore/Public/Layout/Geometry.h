@@ -8,6 +8,7 @@
 #include "Rendering/SlateLayoutTransform.h"
 #include "Rendering/SlateRenderTransform.h"
 #include "Templates/SharedPointer.h"
+#include "Types/SlateVector2.h"
 
 class SWidget;
 struct FArrangedWidget;
@@ -51,8 +52,9 @@ public:
 	SLATECORE_API void AppendTransform(const FSlateLayoutTransform& LayoutTransform);
 
 	SLATECORE_API bool IsUnderLocation(const FVector2D& AbsoluteCoordinate) const;
-	SLATECORE_API FVector2D AbsoluteToLocal(FVector2D AbsoluteCoordinate) const;
-	SLATECORE_API FVector2D LocalToAbsolute(FVector2D LocalCoordinate) const;
+	// Single-precision, through the inverse of the accumulated render transform.
+	SLATECORE_API UE::Slate::FDeprecateVector2DResult AbsoluteToLocal(UE::Slate::FDeprecateVector2DParameter AbsoluteCoordinate) const;
+	SLATECORE_API UE::Slate::FDeprecateVector2DResult LocalToAbsolute(UE::Slate::FDeprecateVector2DParameter LocalCoordinate) const;
 
 	SLATECORE_API FSlateRect GetLayoutBoundingRect() const;
 	SLATECORE_API FSlateRect GetRenderBoundingRect() const;

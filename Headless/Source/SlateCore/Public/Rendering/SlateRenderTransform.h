@@ -94,9 +94,9 @@ namespace UE::Math
 
 		TMatrix2x2 Inverse() const
 		{
-			const T Det = Determinant();
-			checkf(Det != T(0), "Inverting a degenerate 2x2 matrix");
-			const T InvDet = T(1) / Det;
+			// A degenerate matrix (a zero scale) yields non-finite entries rather than stopping
+			// the program, as in a shipping engine; callers that can meet one test the result.
+			const T InvDet = T(1) / Determinant();
 			return TMatrix2x2(M[1][1] * InvDet, -M[0][1] * InvDet, -M[1][0] * InvDet, M[0][0] * InvDet);
 		}
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Layout/Visibility.h"
 
 #include "SlateWrapperTypes.generated.h"
 
@@ -18,4 +19,42 @@ enum class ESlateVisibility : uint8
 	HitTestInvisible UMETA(DisplayName = "Not Hit-Testable (Self & All Children)"),
 	/** Visible, but only its children can be hit. */
 	SelfHitTestInvisible UMETA(DisplayName = "Not Hit-Testable (Self Only)"),
+};
+
+/** How a box panel slot takes its space along the box. */
+namespace ESlateSizeRule
+{
+	enum Type : int
+	{
+		/** Only the space the content needs. */
+		Automatic,
+		/** A share of the space left, proportional to the value. */
+		Fill,
+	};
+}
+
+/** The size rule of a box panel slot, with its fill coefficient. */
+struct FSlateChildSize
+{
+	/** The fill coefficient; used only by Fill. */
+	float Value;
+
+	ESlateSizeRule::Type SizeRule;
+
+	FSlateChildSize()
+		: Value(1.0f)
+		, SizeRule(ESlateSizeRule::Fill)
+	{
+	}
+
+	FSlateChildSize(ESlateSizeRule::Type InSizeRule)
+		: Value(1.0f)
+		, SizeRule(InSizeRule)
+	{
+	}
+
+	bool operator==(const FSlateChildSize& Other) const
+	{
+		return Value == Other.Value && SizeRule == Other.SizeRule;
+	}
 };

@@ -10,4 +10,10 @@ UCLASS(Abstract)
 class UMG_API UVisual : public UObject
 {
 	GENERATED_BODY()
+
+public:
+	/** Lets go of the Slate widgets this object built; with bReleaseChildren, those of everything below it too. */
+	virtual void ReleaseSlateResources(bool bReleaseChildren);
+
+	virtual void BeginDestroy() override;
 };

@@ -1,0 +1,52 @@
+#include "Components/CanvasPanel.h"
+
+#include "Components/CanvasPanelSlot.h"
+#include "Widgets/Layout/SConstraintCanvas.h"
+
+UCanvasPanelSlot* UCanvasPanel::AddChildToCanvas(UWidget* Content)
+{
+	return Cast<UCanvasPanelSlot>(AddChild(Content));
+}
+
+void UCanvasPanel::ReleaseSlateResources(bool bReleaseChildren)
+{
+	Super::ReleaseSlateResources(bReleaseChildren);
+	MyCanvas.Reset();
+}
+
+TSharedRef<SWidget> UCanvasPanel::RebuildWidget()
+{
+	MyCanvas = SNew(SConstraintCanvas);
+	for (const TObjectPtr<UPanelSlot>& PanelSlot : Slots)
+	{
+		if (UCanvasPanelSlot* TypedSlot = Cast<UCanvasPanelSlot>(PanelSlot))
+		{
+			TypedSlot->BuildSlot(MyCanvas.ToSharedRef());
+		}
+	}
+	return MyCanvas.ToSharedRef();
+}
+
+UClass* UCanvasPanel::GetSlotClass() const
+{
+	return UCanvasPanelSlot::StaticClass();
+}
+
+void UCanvasPanel::OnSlotAdded(UPanelSlot* InSlot)
+{
+	if (MyCanvas)
+	{
+		CastChecked<UCanvasPanelSlot>(InSlot)->BuildSlot(MyCanvas.ToSharedRef());
+	}
+}
+
+void UCanvasPanel::OnSlotRemoved(UPanelSlot* InSlot)
+{
+	if (MyCanvas && InSlot->Content)
+	{
+		if (TSharedPtr<SWidget> Widget = InSlot->Content->GetCachedWidget())
+		{
+			MyCanvas->RemoveSlot(Widget.ToSharedRef());
+		}
+	}
+}
