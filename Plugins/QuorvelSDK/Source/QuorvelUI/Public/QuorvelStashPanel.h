@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Blueprint/UserWidget.h"
+#include "QuorvelContainer.h"
 #include "QuorvelContainerLayout.h"
 #include "QuorvelError.h"
 #include "QuorvelItemInstance.h"
@@ -13,6 +14,7 @@ class UCanvasPanel;
 class UDataTable;
 class USizeBox;
 class UTextBlock;
+class UTexture2D;
 class UWidget;
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FQuorvelStashLoaded, int32, StackCount);
@@ -114,6 +116,48 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Tollmere|Appearance")
 	FText Title;
 
+	/**
+	 * Signs the player in, ensures their stash exists, and draws it.
+	 * A second call is safe: it replaces what is drawn instead of stacking a second grid on top of the first.
+	 */
+	UFUNCTION(BlueprintCallable, Category = "Tollmere")
+	void LoadStash();
+
+	/** Draws a stash already in hand, for a caller doing its own auth. */
+	UFUNCTION(BlueprintCallable, Category = "Tollmere")
+	void ShowContainer(const FQuorvelContainer& Container);
+
+	/**
+	 * Puts an item into the stash, then asks the game to remove its own copy.
+	 * -1 for X and Y lets the server place it in the first space that fits; naming a cell asks for that cell and is refused if it is occupied, which is what a player dropping an item onto a square means.
+	 */
+	UFUNCTION(BlueprintCallable, Category = "Tollmere")
+	void DepositItem(FName ItemId, int32 Quantity = 1, int32 X = -1, int32 Y = -1, int32 SourceSlot = -1);
+
+	/** Takes an item out of the stash, then asks the game to add it. */
+	UFUNCTION(BlueprintCallable, Category = "Tollmere")
+	void WithdrawInstance(const FQuorvelItemInstance& Instance);
+
+	/**
+	 * Moves a stack out of another panel and into this one.
+	 * Both panels show containers of the same player, so this is a single move on the server instead of a withdraw followed by a deposit: two calls would leave the item nowhere at all if the second one failed, with no game inventory holding it in between.
+	 * This is what a loadout-and-stash screen is made of, and neither container belongs to the game.
+	 */
+	UFUNCTION(BlueprintCallable, Category = "Tollmere")
+	void TransferFrom(UQuorvelStashPanel* Source, const FQuorvelItemInstance& Instance, int32 X = -1, int32 Y = -1);
+
+	/** The grid cell under a screen position, for an interface placing something where the player let go. */
+	UFUNCTION(BlueprintPure, Category = "Tollmere")
+	bool CellAtScreenPosition(const FVector2D& ScreenPosition, int32& OutX, int32& OutY) const;
+
+	/** The stack under a screen position, for a UI picking one up. */
+	UFUNCTION(BlueprintPure, Category = "Tollmere")
+	bool InstanceAtScreenPosition(const FVector2D& ScreenPosition, FQuorvelItemInstance& OutInstance) const;
+
+	/** True once a player is signed in and their stash has been read. */
+	UFUNCTION(BlueprintPure, Category = "Tollmere")
+	bool IsReady() const;
+
 	/** The platform accepted a deposit; remove the game's own copy now. SourceSlot is whatever was passed to DepositItem, handed back so the subclass need not remember what it sent. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Tollmere|Interaction")
 	void OnDeposited(FName ItemId, int32 Quantity, int32 SourceSlot);
@@ -126,7 +170,24 @@ public:
 	UFUNCTION(BlueprintImplementableEvent, Category = "Tollmere|Interaction")
 	void OnTransferred(const FQuorvelItemInstance& Instance);
 
+protected:
+	virtual TSharedRef<SWidget> RebuildWidget() override;
+	virtual void NativeConstruct() override;
+
 private:
+	void BuildTree();
+	void DrawGrid(int32 Columns, int32 Rows, int32 InSlotCount);
+	void DrawItems(const FQuorvelContainer& Container);
+	void ClearItems();
+	bool LayOutForDisplay(FQuorvelContainer& Container) const;
+	UTexture2D* FindIcon(const FString& ItemId) const;
+	void SetStatus(const FText& Text, bool bError);
+	void Reload();
+	int32 SlotIndexAt(int32 X, int32 Y) const;
+
+	/** The failure branch every completion shares: the error on the status line, then OnStashFailed. */
+	void ShowFailure(const FQuorvelError& Error);
+
 	UPROPERTY(Instanced)
 	TObjectPtr<UBorder> Root;
 
