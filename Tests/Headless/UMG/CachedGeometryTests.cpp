@@ -2,6 +2,7 @@
 #include "Components/CanvasPanel.h"
 #include "Components/CanvasPanelSlot.h"
 #include "Components/Image.h"
+#include "Rendering/DrawElements.h"
 #include "ViewportTestFixture.h"
 #include "Widgets/SWidget.h"
 
@@ -129,4 +130,30 @@ TEST_F(CachedGeometryTest, AChildAddedToACanvasOnScreenIsArrangedAtTheNextFrame)
 	Slot->SetPosition(FVector2D(1.0, 1.0));
 	Viewport->Tick();
 	EXPECT_EQ(ScreenRect(Late), FSlateRect(1.0f, 1.0f, 101.0f, 31.0f));
+}
+
+TEST_F(CachedGeometryTest, AWidgetBuiltOffScreenHasNoCachedWidget)
+{
+	UCanvasPanel* Canvas = FillWithCanvas(Make<UBorder>(), Make<UCanvasPanel>());
+	Screen->WidgetTree->RootWidget = Canvas->GetParent();
+	Screen->TakeWidget();
+	EXPECT_FALSE(Canvas->GetCachedWidget().IsValid());
+}
+
+TEST_F(CachedGeometryTest, AChildAddedAndRemovedBetweenFramesLeavesNothingOnTheCanvas)
+{
+	UCanvasPanel* Canvas = FillWithCanvas(Make<UBorder>(), Make<UCanvasPanel>());
+	Show(Canvas->GetParent());
+	UImage* Brief = Make<UImage>();
+	Canvas->AddChildToCanvas(Brief);
+	Brief->RemoveFromParent();
+	Viewport->Tick();
+
+	FSlateWindowElementList Elements;
+	Viewport->Paint(Elements);
+	for (const FSlateDrawElement& Element : Elements.GetDrawElements())
+	{
+		EXPECT_NE(Element.GetLocalSize(), FVector2f(100.0f, 30.0f));
+	}
+	EXPECT_EQ(Canvas->GetCachedWidget()->GetChildren()->Num(), 0);
 }

@@ -42,11 +42,13 @@ void UCanvasPanel::OnSlotAdded(UPanelSlot* InSlot)
 
 void UCanvasPanel::OnSlotRemoved(UPanelSlot* InSlot)
 {
-	if (MyCanvas && InSlot->Content)
+	// Through the Slate slot, not the content's cached widget: a child added since the last
+	// frame has a Slate widget that is not laid out yet.
+	if (MyCanvas)
 	{
-		if (TSharedPtr<SWidget> Widget = InSlot->Content->GetCachedWidget())
+		if (auto* LiveSlot = CastChecked<UCanvasPanelSlot>(InSlot)->GetLiveSlot())
 		{
-			MyCanvas->RemoveSlot(Widget.ToSharedRef());
+			MyCanvas->RemoveSlot(LiveSlot->GetWidget());
 		}
 	}
 }

@@ -42,11 +42,13 @@ void UVerticalBox::OnSlotAdded(UPanelSlot* InSlot)
 
 void UVerticalBox::OnSlotRemoved(UPanelSlot* InSlot)
 {
-	if (MyVerticalBox && InSlot->Content)
+	// Through the Slate slot, not the content's cached widget: a child added since the last
+	// frame has a Slate widget that is not laid out yet.
+	if (MyVerticalBox)
 	{
-		if (TSharedPtr<SWidget> Widget = InSlot->Content->GetCachedWidget())
+		if (auto* LiveSlot = CastChecked<UVerticalBoxSlot>(InSlot)->GetLiveSlot())
 		{
-			MyVerticalBox->RemoveSlot(Widget.ToSharedRef());
+			MyVerticalBox->RemoveSlot(LiveSlot->GetWidget());
 		}
 	}
 }

@@ -63,7 +63,7 @@ ESlateVisibility UWidget::GetVisibility() const
 void UWidget::SetVisibility(ESlateVisibility InVisibility)
 {
 	Visibility = InVisibility;
-	if (TSharedPtr<SWidget> SafeWidget = GetCachedWidget())
+	if (TSharedPtr<SWidget> SafeWidget = MyWidget.Pin())
 	{
 		SafeWidget->SetVisibility(ConvertSerializedVisibilityToRuntime(InVisibility));
 	}
@@ -72,7 +72,7 @@ void UWidget::SetVisibility(ESlateVisibility InVisibility)
 void UWidget::SetRenderOpacity(float InOpacity)
 {
 	RenderOpacity = InOpacity;
-	if (TSharedPtr<SWidget> SafeWidget = GetCachedWidget())
+	if (TSharedPtr<SWidget> SafeWidget = MyWidget.Pin())
 	{
 		SafeWidget->SetRenderOpacity(InOpacity);
 	}
@@ -121,7 +121,7 @@ void UWidget::SetRenderTranslation(FVector2D Translation)
 void UWidget::SetRenderTransformPivot(FVector2D Pivot)
 {
 	RenderTransformPivot = Pivot;
-	if (TSharedPtr<SWidget> SafeWidget = GetCachedWidget())
+	if (TSharedPtr<SWidget> SafeWidget = MyWidget.Pin())
 	{
 		SafeWidget->SetRenderTransformPivot(Pivot);
 	}
@@ -129,7 +129,7 @@ void UWidget::SetRenderTransformPivot(FVector2D Pivot)
 
 void UWidget::UpdateRenderTransform()
 {
-	if (TSharedPtr<SWidget> SafeWidget = GetCachedWidget())
+	if (TSharedPtr<SWidget> SafeWidget = MyWidget.Pin())
 	{
 		// An identity transform is left unset, so arrangement skips it entirely.
 		SafeWidget->SetRenderTransform(RenderTransform.IsIdentity() ? TOptional<FSlateRenderTransform>() : TOptional<FSlateRenderTransform>(RenderTransform.ToSlateRenderTransform()));
@@ -170,7 +170,14 @@ TSharedRef<SWidget> UWidget::TakeWidget()
 
 TSharedPtr<SWidget> UWidget::GetCachedWidget() const
 {
-	return MyWidget.Pin();
+	// A Slate widget that no window has laid out yet is not on screen: built by TakeWidget
+	// outside the viewport, or added to a panel since the last frame.
+	TSharedPtr<SWidget> SafeWidget = MyWidget.Pin();
+	if (SafeWidget && !SafeWidget->GetPrepassLayoutScaleMultiplier().IsSet())
+	{
+		return nullptr;
+	}
+	return SafeWidget;
 }
 
 const FGeometry& UWidget::GetCachedGeometry() const
@@ -203,7 +210,7 @@ bool UWidget::IsDesignTime() const
 
 void UWidget::SynchronizeProperties()
 {
-	TSharedPtr<SWidget> SafeWidget = GetCachedWidget();
+	TSharedPtr<SWidget> SafeWidget = MyWidget.Pin();
 	if (!SafeWidget)
 	{
 		return;

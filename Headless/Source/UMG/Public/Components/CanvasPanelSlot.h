@@ -67,6 +67,8 @@ public:
 	void BuildSlot(TSharedRef<SConstraintCanvas> Canvas);
 
 private:
+	friend class UCanvasPanel;
+
 	SConstraintCanvas::FSlot* GetLiveSlot() const;
 
 	FAnchorData LayoutData;

@@ -53,6 +53,8 @@ public:
 	void BuildSlot(TSharedRef<SVerticalBox> InVerticalBox);
 
 private:
+	friend class UVerticalBox;
+
 	SVerticalBox::FSlot* GetLiveSlot() const;
 
 	FMargin Padding;

@@ -72,7 +72,7 @@ public:
 	/** The Slate widget, built on first call; later calls return the same one while it lives. */
 	TSharedRef<SWidget> TakeWidget();
 
-	/** The Slate widget while it exists (the widget is on screen), else null. */
+	/** The Slate widget once a window has laid it out, until it is released (the widget leaves the screen); else null. */
 	TSharedPtr<SWidget> GetCachedWidget() const;
 
 	/** Where the widget was last arranged, in desktop space; empty when it has no Slate widget. */
