@@ -115,16 +115,16 @@ namespace UE::Core::Private
 			return uint64(Value);
 		}
 
-		std::string NarrowSpec(const FSpec& Spec, const char* Length, char Conversion)
+		std::string NarrowSpec(const FSpec& Directive, const char* Length, char Conversion)
 		{
-			std::string Result = "%" + Spec.Flags;
-			if (Spec.Width >= 0)
+			std::string Result = "%" + Directive.Flags;
+			if (Directive.Width >= 0)
 			{
-				Result += std::to_string(Spec.Width);
+				Result += std::to_string(Directive.Width);
 			}
-			if (Spec.Precision >= 0)
+			if (Directive.Precision >= 0)
 			{
-				Result += "." + std::to_string(Spec.Precision);
+				Result += "." + std::to_string(Directive.Precision);
 			}
 			Result += Length;
 			Result += Conversion;
@@ -155,10 +155,10 @@ namespace UE::Core::Private
 			}
 		}
 
-		void AppendPadded(FString& Out, const FSpec& Spec, const TCHAR* Text, int32 TextLen)
+		void AppendPadded(FString& Out, const FSpec& Directive, const TCHAR* Text, int32 TextLen)
 		{
-			const int32 Padding = Spec.Width > TextLen ? Spec.Width - TextLen : 0;
-			const bool bLeftAlign = Spec.HasFlag('-');
+			const int32 Padding = Directive.Width > TextLen ? Directive.Width - TextLen : 0;
+			const bool bLeftAlign = Directive.HasFlag('-');
 			if (!bLeftAlign)
 			{
 				for (int32 Index = 0; Index < Padding; ++Index)
@@ -176,7 +176,7 @@ namespace UE::Core::Private
 			}
 		}
 
-		void AppendString(FString& Out, const FSpec& Spec, const FArg& Arg)
+		void AppendString(FString& Out, const FSpec& Directive, const FArg& Arg)
 		{
 			FString Converted;
 			const TCHAR* Text = nullptr;
@@ -199,11 +199,11 @@ namespace UE::Core::Private
 				return;
 			}
 			int32 TextLen = FCString::Strlen(Text);
-			if (Spec.Precision >= 0 && Spec.Precision < TextLen)
+			if (Directive.Precision >= 0 && Directive.Precision < TextLen)
 			{
-				TextLen = Spec.Precision;
+				TextLen = Directive.Precision;
 			}
-			AppendPadded(Out, Spec, Text, TextLen);
+			AppendPadded(Out, Directive, Text, TextLen);
 		}
 
 		const TCHAR* ParseNumber(const TCHAR* Cursor, int32& OutValue)
@@ -220,13 +220,13 @@ namespace UE::Core::Private
 		}
 
 		// Reads flags, width, precision and length after a '%'; returns the conversion character's position.
-		const TCHAR* ParseSpec(const TCHAR* Cursor, FSpec& Spec, FArgCursor& ArgCursor)
+		const TCHAR* ParseSpec(const TCHAR* Cursor, FSpec& Directive, FArgCursor& ArgCursor)
 		{
 			for (; *Cursor == TEXT('-') || *Cursor == TEXT('+') || *Cursor == TEXT(' ') || *Cursor == TEXT('#') || *Cursor == TEXT('0'); ++Cursor)
 			{
-				if (!Spec.HasFlag(char(*Cursor)))
+				if (!Directive.HasFlag(char(*Cursor)))
 				{
-					Spec.Flags += char(*Cursor);
+					Directive.Flags += char(*Cursor);
 				}
 			}
 			if (*Cursor == TEXT('*'))
@@ -236,21 +236,21 @@ namespace UE::Core::Private
 				if (Width < 0)
 				{
 					// A negative '*' width means left alignment, as in C.
-					if (!Spec.HasFlag('-'))
+					if (!Directive.HasFlag('-'))
 					{
-						Spec.Flags += '-';
+						Directive.Flags += '-';
 					}
-					Spec.Width = int32(-Width);
+					Directive.Width = int32(-Width);
 				}
 				else
 				{
-					Spec.Width = int32(Width);
+					Directive.Width = int32(Width);
 				}
 				++Cursor;
 			}
 			else if (FChar::IsDigit(*Cursor))
 			{
-				Cursor = ParseNumber(Cursor, Spec.Width);
+				Cursor = ParseNumber(Cursor, Directive.Width);
 			}
 			if (*Cursor == TEXT('.'))
 			{
@@ -259,32 +259,32 @@ namespace UE::Core::Private
 				{
 					const FArg* Arg = ArgCursor.Next();
 					const int64 Precision = Arg ? AsSigned(*Arg) : 0;
-					Spec.Precision = Precision < 0 ? -1 : int32(Precision);
+					Directive.Precision = Precision < 0 ? -1 : int32(Precision);
 					++Cursor;
 				}
 				else
 				{
-					Cursor = ParseNumber(Cursor, Spec.Precision);
+					Cursor = ParseNumber(Cursor, Directive.Precision);
 				}
 			}
 			for (; *Cursor == TEXT('h') || *Cursor == TEXT('l') || *Cursor == TEXT('z') || *Cursor == TEXT('j') || *Cursor == TEXT('t') || *Cursor == TEXT('L'); ++Cursor)
 			{
-				Spec.Length += char(*Cursor);
+				Directive.Length += char(*Cursor);
 			}
-			Spec.Conversion = *Cursor;
+			Directive.Conversion = *Cursor;
 			return Cursor;
 		}
 
-		void AppendConversion(FString& Out, const FSpec& Spec, FArgCursor& ArgCursor)
+		void AppendConversion(FString& Out, const FSpec& Directive, FArgCursor& ArgCursor)
 		{
-			const TCHAR Conversion = Spec.Conversion;
+			const TCHAR Conversion = Directive.Conversion;
 			switch (Conversion)
 			{
 			case TEXT('d'):
 			case TEXT('i'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
-					AppendC(Out, NarrowSpec(Spec, "ll", 'd'), (long long)NarrowSigned(AsSigned(*Arg), Spec.Length));
+					AppendC(Out, NarrowSpec(Directive, "ll", 'd'), (long long)NarrowSigned(AsSigned(*Arg), Directive.Length));
 				}
 				break;
 			case TEXT('u'):
@@ -293,7 +293,7 @@ namespace UE::Core::Private
 			case TEXT('o'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
-					AppendC(Out, NarrowSpec(Spec, "ll", char(Conversion)), (unsigned long long)NarrowUnsigned(AsSigned(*Arg), Spec.Length));
+					AppendC(Out, NarrowSpec(Directive, "ll", char(Conversion)), (unsigned long long)NarrowUnsigned(AsSigned(*Arg), Directive.Length));
 				}
 				break;
 			case TEXT('f'):
@@ -306,27 +306,27 @@ namespace UE::Core::Private
 			case TEXT('A'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
-					AppendC(Out, NarrowSpec(Spec, "", char(Conversion)), AsDouble(*Arg));
+					AppendC(Out, NarrowSpec(Directive, "", char(Conversion)), AsDouble(*Arg));
 				}
 				break;
 			case TEXT('p'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
-					AppendC(Out, NarrowSpec(Spec, "", 'p'), Arg->Pointer);
+					AppendC(Out, NarrowSpec(Directive, "", 'p'), Arg->Pointer);
 				}
 				break;
 			case TEXT('c'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
 					const TCHAR Char = TCHAR(AsSigned(*Arg));
-					AppendPadded(Out, Spec, &Char, Char ? 1 : 0);
+					AppendPadded(Out, Directive, &Char, Char ? 1 : 0);
 				}
 				break;
 			case TEXT('s'):
 			case TEXT('S'):
 				if (const FArg* Arg = ArgCursor.Next())
 				{
-					AppendString(Out, Spec, *Arg);
+					AppendString(Out, Directive, *Arg);
 				}
 				break;
 			default:
@@ -360,21 +360,21 @@ namespace UE::Core::Private
 				++Cursor;
 				continue;
 			}
-			FSpec Spec;
-			Cursor = ParseSpec(Cursor, Spec, ArgCursor);
+			FSpec Directive;
+			Cursor = ParseSpec(Cursor, Directive, ArgCursor);
 			if (*Cursor == 0)
 			{
 				// A dangling '%' at the end is printed as written.
 				Out.AppendChars(SpecStart, int32(Cursor - SpecStart));
 				break;
 			}
-			if (FCString::Strchr(TEXT("diuxXofFeEgGaApcsS"), Spec.Conversion) == nullptr)
+			if (FCString::Strchr(TEXT("diuxXofFeEgGaApcsS"), Directive.Conversion) == nullptr)
 			{
 				Out.AppendChars(SpecStart, int32(Cursor + 1 - SpecStart));
 			}
 			else
 			{
-				AppendConversion(Out, Spec, ArgCursor);
+				AppendConversion(Out, Directive, ArgCursor);
 			}
 			++Cursor;
 		}
