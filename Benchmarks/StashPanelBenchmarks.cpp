@@ -1,7 +1,9 @@
 // The panel's costs on the paths a game hits: drawing a container, looking icons up, building
 // request bodies, reading the ensure reply, and what a long session of reloads leaves behind.
 #include "BenchmarkItemRow.h"
+#include "Components/Widget.h"
 #include "Dom/JsonObject.h"
+#include "Headless/HeadlessViewport.h"
 #include "Headless/HttpTestTransport.h"
 #include "HttpManager.h"
 #include "HttpModule.h"
@@ -277,6 +279,69 @@ namespace
 		Transport.reset();
 	}
 	BENCHMARK(BM_TenThousandReloads)->Iterations(1)->Unit(benchmark::kSecond);
+}
+
+namespace
+{
+	// Hit tests on a panel laid out in a viewport, as a drag would ask them on every pointer move.
+	struct FOnScreenPanel
+	{
+		FOnScreenPanel(int32 Stacks)
+			: Viewport(FVector2D(1600.0, 1200.0), FVector2D(100.0, 100.0))
+		{
+			Panel = MakePanel();
+			Panel->GridWidth = 20;
+			Panel->GridHeight = 50;
+			Panel->CellSize = 16.0f;
+			Panel->AddToViewport();
+			Viewport.Tick(0.0f);
+			Panel->ShowContainer(MakeGrid(20, 50, Stacks, 32));
+			Viewport.Tick(0.0f);
+			// The bottom-right cell holds the last stack of the reply, so the search walks the whole list.
+			const FProperty* CanvasProperty = Panel->GetClass()->FindPropertyByName(FName(TEXT("GridCanvas")));
+			const UWidget* Canvas = CanvasProperty->ContainerPtrToValuePtr<TObjectPtr<UWidget>>(Panel)->Get();
+			Target = FVector2D(Canvas->GetCachedGeometry().LocalToAbsolute(FVector2D(19.5 * 16.0, 49.5 * 16.0)));
+		}
+
+		~FOnScreenPanel()
+		{
+			Panel->RemoveFromParent();
+			ReleasePanel(Panel);
+		}
+
+		FHeadlessViewport Viewport;
+		UQuorvelStashPanel* Panel = nullptr;
+		FVector2D Target;
+	};
+
+	void BM_CellAtScreenPosition(benchmark::State& State)
+	{
+		FOnScreenPanel Screen(0);
+		int32 X = 0;
+		int32 Y = 0;
+		for (auto _ : State)
+		{
+			benchmark::DoNotOptimize(Screen.Panel->CellAtScreenPosition(Screen.Target, X, Y));
+		}
+	}
+	BENCHMARK(BM_CellAtScreenPosition);
+
+	void BM_InstanceAtScreenPosition_1000Stacks(benchmark::State& State)
+	{
+		FOnScreenPanel Screen(1000);
+		FQuorvelItemInstance Found;
+		bool bHit = false;
+		for (auto _ : State)
+		{
+			bHit = Screen.Panel->InstanceAtScreenPosition(Screen.Target, Found);
+			benchmark::DoNotOptimize(bHit);
+		}
+		if (!bHit)
+		{
+			State.SkipWithError("the point found no stack");
+		}
+	}
+	BENCHMARK(BM_InstanceAtScreenPosition_1000Stacks);
 }
 
 BENCHMARK_MAIN();
