@@ -34,8 +34,9 @@ namespace HeaderTool
 				Text.pop_back();
 			}
 		}
-		// "const T&" drops its const with the reference; "const T*" keeps it (it belongs to the pointee).
-		if (Type.bReference && !Type.bPointer && Text.rfind("const ", 0) == 0)
+		// "const T&" and "const T" store a plain T, which the block can be filled into; "const T*" keeps
+		// its const (it belongs to the pointee).
+		if (!Type.bPointer && Text.rfind("const ", 0) == 0)
 		{
 			Text = Text.substr(6);
 		}
