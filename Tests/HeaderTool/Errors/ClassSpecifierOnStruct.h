@@ -1,0 +1,7 @@
+#pragma once
+
+USTRUCT(BlueprintType, Blueprintable)
+struct FClassSpecifierOnStruct
+{
+	GENERATED_BODY()
+};

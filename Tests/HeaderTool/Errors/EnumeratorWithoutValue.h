@@ -1,0 +1,8 @@
+#pragma once
+
+UENUM()
+enum class EEnumeratorWithoutValue : uint8
+{
+	First = ,
+	Second
+};

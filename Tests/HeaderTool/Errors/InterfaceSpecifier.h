@@ -1,0 +1,7 @@
+#pragma once
+
+UINTERFACE(Abstract)
+class UInterfaceSpecifier : public UInterface
+{
+	GENERATED_BODY()
+};

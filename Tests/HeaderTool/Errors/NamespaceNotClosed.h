@@ -1,0 +1,5 @@
+#pragma once
+
+namespace Quorvel
+{
+	inline int32 Answer() { return 42; }

@@ -1,0 +1,13 @@
+#pragma once
+
+UCLASS()
+class UNestedReflectedType : public UObject
+{
+	GENERATED_BODY()
+
+	USTRUCT()
+	struct FInner
+	{
+		GENERATED_BODY()
+	};
+};

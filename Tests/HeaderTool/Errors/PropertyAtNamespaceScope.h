@@ -1,0 +1,7 @@
+#pragma once
+
+namespace Quorvel
+{
+	UPROPERTY()
+	int32 Loose;
+}

@@ -1,0 +1,3 @@
+#pragma once
+
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE(FOnSparse, UObject, OnSparse);
