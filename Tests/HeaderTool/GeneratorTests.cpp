@@ -370,6 +370,19 @@ TEST(GeneratedFunctions, FlagsFollowTheSpecifiersQualifiersAndAccess)
 	EXPECT_EQ(FunctionFlagsOf(Files.Source, "Tick"), FUNC_Final | FUNC_Native | FUNC_Private);
 }
 
+TEST(GeneratedFunctions, BlueprintPureFalseKeepsAConstFunctionCallableButNotPure)
+{
+	const FGenerated Files = Generate(
+		"#pragma once\n"
+		"UCLASS()\nclass UGenPanel : public UUserWidget\n{\n\tGENERATED_BODY()\npublic:\n"
+		"\tUFUNCTION(BlueprintPure = false)\n\tint32 Count() const;\n"
+		"\tUFUNCTION(BlueprintPure = true)\n\tint32 Total() const;\n"
+		"};\n");
+	EXPECT_EQ(FunctionFlagsOf(Files.Source, "Count"), FUNC_Final | FUNC_Native | FUNC_Public | FUNC_BlueprintCallable | FUNC_Const);
+	EXPECT_EQ(FunctionFlagsOf(Files.Source, "Total"),
+		FUNC_Final | FUNC_Native | FUNC_Public | FUNC_BlueprintCallable | FUNC_BlueprintPure | FUNC_Const);
+}
+
 TEST(GeneratedFunctions, ParameterFlagsTellValuesConstReferencesOutputsAndTheReturnValueApart)
 {
 	const FGenerated Files = Generate(FunctionsHeader);
