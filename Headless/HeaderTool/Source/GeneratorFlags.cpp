@@ -38,6 +38,7 @@ namespace HeaderTool
 		constexpr uint64_t CPF_NoClear = 0x2000000;
 		constexpr uint64_t CPF_ReferenceParm = 0x8000000;
 		constexpr uint64_t CPF_BlueprintAssignable = 0x10000000;
+		constexpr uint64_t CPF_Deprecated = 0x20000000;
 		constexpr uint64_t CPF_Interp = 0x200000000ull;
 		constexpr uint64_t CPF_NonTransactional = 0x400000000ull;
 		constexpr uint64_t CPF_ContainsInstancedReference = 0x8000000000ull;
@@ -171,6 +172,12 @@ namespace HeaderTool
 		{
 			Flags |= CPF_ContainsInstancedReference;
 		}
+		// A member kept only so old data still loads is named with this suffix.
+		static const std::string DeprecatedSuffix = "_DEPRECATED";
+		if (Property.Name.size() > DeprecatedSuffix.size() && Property.Name.compare(Property.Name.size() - DeprecatedSuffix.size(), DeprecatedSuffix.size(), DeprecatedSuffix) == 0)
+		{
+			Flags |= CPF_Deprecated;
+		}
 		return Flags;
 	}
 
@@ -253,7 +260,12 @@ namespace HeaderTool
 		}
 		if (HasKey(Function.Specifiers, "BlueprintPure"))
 		{
-			Flags |= FUNC_BlueprintCallable | FUNC_BlueprintPure;
+			// BlueprintPure = false still makes the function callable, only not pure.
+			Flags |= FUNC_BlueprintCallable;
+			if (!EqualsIgnoreCase(FindValue(Function.Specifiers, "BlueprintPure"), "false"))
+			{
+				Flags |= FUNC_BlueprintPure;
+			}
 		}
 		if (HasKey(Function.Specifiers, "Exec"))
 		{
