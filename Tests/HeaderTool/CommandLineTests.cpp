@@ -66,3 +66,32 @@ TEST(CommandLine, RefusesToRunWithoutAModuleAndAnOutputFolder)
 	EXPECT_EQ(RunHeaderTool("--module OnlyModule").ExitCode, 1);
 	EXPECT_EQ(RunHeaderTool("--output /tmp --bogus").ExitCode, 1);
 }
+
+TEST(CommandLine, AModuleThatParsesAndValidatesExitsCleanlyWithEveryFileGenerated)
+{
+	const std::filesystem::path Output = std::filesystem::path(testing::TempDir()) / "HeaderToolClean";
+	std::filesystem::remove_all(Output);
+	const FRun Run = RunHeaderTool("--module Clean --output " + Quoted(Output) + " " + Quoted(TestDir / "Cases" / "EnumForms.h") + " "
+		+ Quoted(TestDir / "Cases" / "FunctionParameters.h"));
+	EXPECT_EQ(Run.ExitCode, 0);
+	EXPECT_EQ(Run.Stderr, "");
+	for (const char* Name : {"EnumForms.generated.h", "EnumForms.gen.cpp", "FunctionParameters.generated.h", "FunctionParameters.gen.cpp",
+			 "Clean.init.gen.cpp"})
+	{
+		EXPECT_TRUE(std::filesystem::exists(Output / Name)) << Name;
+	}
+}
+
+TEST(CommandLine, AValidationErrorIsReportedAndNothingIsGenerated)
+{
+	const std::filesystem::path Output = std::filesystem::path(testing::TempDir()) / "HeaderToolInvalid";
+	std::filesystem::remove_all(Output);
+	const std::filesystem::path Header = TestDir / "Errors" / "EditConditionMissingProperty.h";
+	const FRun Run = RunHeaderTool("--module Invalid --output " + Quoted(Output) + " " + Quoted(Header));
+	EXPECT_EQ(Run.ExitCode, 1);
+	EXPECT_EQ(Run.Stderr,
+		Header.string() + ":18:8: error: EditCondition of 'GridWidth' names 'Layout', which is not a property of 'UEditConditionMissing'\n"
+		+ Header.string() + ":21:8: error: EditCondition of 'Typo' names 'bVisible', which is not a property of 'UEditConditionMissing'\n");
+	EXPECT_FALSE(std::filesystem::exists(Output / "EditConditionMissingProperty.gen.cpp"));
+	EXPECT_FALSE(std::filesystem::exists(Output / "Invalid.init.gen.cpp"));
+}
