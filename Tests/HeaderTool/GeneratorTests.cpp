@@ -336,6 +336,20 @@ TEST(GeneratedEnum, ListsEveryValueAndKeepsEachValuesMetadataAtItsIndex)
 	EXPECT_THAT(Files.Source, HasSubstr("SetMetaData(TEXT(\"ToolTip\"), TEXT(\"One per row.\"), 1);"));
 }
 
+TEST(GeneratedEnum, TheNamespacedFormQualifiesItsValuesWithTheNamespaceAlone)
+{
+	const FGenerated Files = Generate(
+		"#pragma once\n"
+		"UENUM()\nnamespace EGenOld\n{\n\tenum Type\n\t{\n\t\tFirst,\n\t\tSecond\n\t};\n}\n"
+		"UENUM()\nenum EGenPlain\n{\n\tGP_Off,\n\tGP_On\n};\n");
+	EXPECT_THAT(Files.Header, HasSubstr("#define FOREACH_ENUM_EGENOLD(op) \\\n\top(EGenOld::First) \\\n\top(EGenOld::Second)\n"));
+	EXPECT_THAT(Files.Source, HasSubstr("TEXT(\"EGenOld\"), ")) << "registered under the namespace's name";
+	EXPECT_THAT(Files.Source, HasSubstr("ECppForm::Namespaced, {\n\t\t\t{TEXT(\"EGenOld::First\"), int64(EGenOld::First)},\n"));
+	// A plain enum's values are unscoped names; neither form gets a StaticEnum specialisation.
+	EXPECT_THAT(Files.Source, HasSubstr("ECppForm::Regular, {\n\t\t\t{TEXT(\"GP_Off\"), int64(EGenPlain::GP_Off)},\n"));
+	EXPECT_THAT(Files.Source, Not(HasSubstr("StaticEnum<")));
+}
+
 namespace
 {
 	const std::string FunctionsHeader =
