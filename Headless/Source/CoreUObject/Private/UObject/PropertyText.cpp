@@ -172,15 +172,21 @@ void FNumericProperty::SetNumericPropertyValueFromString(void* Data, const TCHAR
 	int64 Signed = 0;
 	uint64 Unsigned = 0;
 	double Floating = 0.0;
-	if (ParseNumericText(Value, IsFloatingPoint(), true, Signed, Unsigned, Floating))
+	// Only a negative number reads as signed; the rest read unsigned so uint64 keeps its top half.
+	const bool bNegative = *UE::CoreUObject::Private::SkipWhitespace(Value) == u'-';
+	if (ParseNumericText(Value, IsFloatingPoint(), bNegative, Signed, Unsigned, Floating))
 	{
 		if (IsFloatingPoint())
 		{
 			SetFloatingPointPropertyValue(Data, Floating);
 		}
-		else
+		else if (bNegative)
 		{
 			SetIntPropertyValue(Data, Signed);
+		}
+		else
+		{
+			SetIntPropertyValue(Data, Unsigned);
 		}
 	}
 }
