@@ -201,7 +201,9 @@ const TCHAR* FStrProperty::ImportTextInternal(const TCHAR* Buffer, void* Data, U
 
 void FNameProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, UObject* Parent, int32 PortFlags) const
 {
-	ValueStr += ((const FName*)PropertyValue)->ToString();
+	// Inside a struct or array the name is quoted, so a ',' or ')' in it cannot end the value.
+	const FString Value = ((const FName*)PropertyValue)->ToString();
+	ValueStr += (PortFlags & PPF_Delimited) ? QuoteString(Value) : Value;
 }
 
 const TCHAR* FNameProperty::ImportTextInternal(const TCHAR* Buffer, void* Data, UObject* OwnerObject, int32 PortFlags) const
@@ -525,6 +527,13 @@ void FStructProperty::ExportTextItem(FString& ValueStr, const void* PropertyValu
 			}
 			bFirst = false;
 			ValueStr += It->GetName();
+			if (It->ArrayDim > 1)
+			{
+				// Elements of a fixed array are written one by one: Name[Index]=Value.
+				ValueStr += TEXT("[");
+				ValueStr += NumericValueToText(int64(Index));
+				ValueStr += TEXT("]");
+			}
 			ValueStr += TEXT("=");
 			It->ExportTextItem_Direct(ValueStr, It->ContainerPtrToValuePtr<void>(PropertyValue, Index), nullptr, Parent, PortFlags | PPF_Delimited);
 		}
@@ -551,22 +560,39 @@ const TCHAR* FStructProperty::ImportTextInternal(const TCHAR* Buffer, void* Data
 	while (*Cursor && *Cursor != u')')
 	{
 		const TCHAR* NameStart = Cursor;
-		while (*Cursor && *Cursor != u'=' && *Cursor != u',' && *Cursor != u')')
+		while (*Cursor && *Cursor != u'=' && *Cursor != u',' && *Cursor != u')' && *Cursor != u'[' && *Cursor != u'(')
 		{
 			++Cursor;
+		}
+		FString FieldName(int32(Cursor - NameStart), NameStart);
+		FieldName.TrimStartAndEndInline();
+		// One element of a fixed array: Name[Index]= or Name(Index)=.
+		int32 ArrayIndex = 0;
+		if (*Cursor == u'[' || *Cursor == u'(')
+		{
+			const TCHAR Close = *Cursor == u'[' ? u']' : u')';
+			const TCHAR* Digits = ++Cursor;
+			while (*Cursor >= u'0' && *Cursor <= u'9' && Cursor - Digits < 6)
+			{
+				ArrayIndex = ArrayIndex * 10 + int32(*Cursor - u'0');
+				++Cursor;
+			}
+			if (Cursor == Digits || *Cursor != Close)
+			{
+				return nullptr;
+			}
+			Cursor = SkipWhitespace(Cursor + 1);
 		}
 		if (*Cursor != u'=')
 		{
 			return nullptr;
 		}
-		FString FieldName(int32(Cursor - NameStart), NameStart);
-		FieldName.TrimStartAndEndInline();
 		FProperty* Field = Struct->FindPropertyByName(FName(*FieldName));
-		if (Field == nullptr)
+		if (Field == nullptr || ArrayIndex >= Field->ArrayDim)
 		{
 			return nullptr;
 		}
-		Cursor = Field->ImportText_Direct(Cursor + 1, Field->ContainerPtrToValuePtr<void>(Data), OwnerObject, PortFlags | PPF_Delimited);
+		Cursor = Field->ImportText_Direct(Cursor + 1, Field->ContainerPtrToValuePtr<void>(Data, ArrayIndex), OwnerObject, PortFlags | PPF_Delimited);
 		if (Cursor == nullptr)
 		{
 			return nullptr;
