@@ -39,6 +39,7 @@ public:
 		: Struct(InStruct)
 		, Field(InStruct ? First(InStruct) : nullptr)
 		, bIncludeSuper(InSuperClassFlags == EFieldIteratorFlags::IncludeSuper)
+		, bIncludeDeprecated(InDeprecatedFieldFlags == EFieldIteratorFlags::IncludeDeprecated)
 	{
 		IterateToNext();
 	}
@@ -100,7 +101,13 @@ private:
 	{
 		if constexpr (bIsProperty)
 		{
-			return InField->IsA(T::StaticClass());
+			if (!InField->IsA(T::StaticClass()))
+			{
+				return false;
+			}
+			// Named through T so FProperty need only be complete where the iterator is used.
+			using FPropertyType = std::conditional_t<bIsProperty, FProperty, FField>;
+			return bIncludeDeprecated || !InField->IsA(FPropertyType::StaticClass()) || !(((const FPropertyType*)InField)->PropertyFlags & CPF_Deprecated);
 		}
 		else
 		{
@@ -132,6 +139,7 @@ private:
 	const UStruct* Struct;
 	FLinkType* Field;
 	bool bIncludeSuper;
+	bool bIncludeDeprecated;
 };
 
 template<class T>
