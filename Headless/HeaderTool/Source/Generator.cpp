@@ -273,9 +273,11 @@ namespace HeaderTool
 				return Header.FileId + "_" + std::to_string(Line) + "_" + Suffix;
 			}
 
+			// What the enumerators are qualified with. The namespaced form is named after its namespace,
+			// and its enumerators live there: EFoo::First, not EFoo::EFoo::First.
 			std::string EnumTypeText(const FEnumDecl& Enum) const
 			{
-				return Enum.Namespace.empty() ? Enum.Name : Enum.Namespace + "::" + Enum.Name;
+				return Enum.Name;
 			}
 
 			std::string DelegateParmsName(const FDelegateDecl& Delegate) const
