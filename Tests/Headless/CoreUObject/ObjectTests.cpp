@@ -156,3 +156,14 @@ TEST(Objects, TheClassDefaultObjectIsMadeOnceAndIsATemplate)
 	EXPECT_EQ(GetDefault<UTestValues>()->Tiny, -8);
 	EXPECT_EQ(GetDefault<UTestValues>()->Signed, ETestSigned::Above);
 }
+
+TEST(Objects, GeneratedNamesCountFromZeroPerBaseName)
+{
+	// No other test makes an unnamed UTestSpecifiers, so this is the first name handed out for it.
+	UPackage* Package = CreatePackage(TEXT("/Game/Tests/Counting"));
+	const FName Name = MakeUniqueObjectName(Package, UTestSpecifiers::StaticClass());
+	EXPECT_EQ(Name.ToString(), FString(TEXT("TestSpecifiers_0")));
+	EXPECT_EQ(Name.GetPlainNameString(), FString(TEXT("TestSpecifiers")));
+	const FName Based = MakeUniqueObjectName(Package, UTestSpecifiers::StaticClass(), FName(TEXT("Slot")));
+	EXPECT_EQ(Based.GetPlainNameString(), FString(TEXT("Slot")));
+}

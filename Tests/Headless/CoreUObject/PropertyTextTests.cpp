@@ -197,3 +197,66 @@ TEST(PropertyText, SoftReferencesExportTheirPathWhetherOrNotTheObjectIsLoaded)
 	EXPECT_TRUE(ImportAll(Soft, TEXT("None"), Values));
 	EXPECT_TRUE(Values->Soft.IsNull());
 }
+
+TEST(PropertyText, NamesInsideStructsReadBackQuotedOrBare)
+{
+	UTestValues* Values = NewObject<UTestValues>();
+	const FProperty* Placement = Prop(UTestValues::StaticClass(), TEXT("Placement"));
+	Values->Placement.Tag = FName(TEXT("Quoted"));
+	EXPECT_EQ(Export(Placement, Values).Contains(TEXT("Tag=\"Quoted\"")), true);
+
+	ASSERT_TRUE(ImportAll(Placement, TEXT("(Tag=Bare,Note=Plain words)"), Values));
+	EXPECT_EQ(Values->Placement.Tag, FName(TEXT("Bare")));
+	EXPECT_EQ(Values->Placement.Note, FString(TEXT("Plain words")));
+	ASSERT_TRUE(ImportAll(Placement, TEXT("(Tag=\"With, comma\")"), Values));
+	EXPECT_EQ(Values->Placement.Tag, FName(TEXT("With, comma")));
+}
+
+TEST(PropertyText, FixedArrayElementsMayBeNamedByIndexInEitherBracket)
+{
+	UTestValues* Values = NewObject<UTestValues>();
+	const FProperty* Placement = Prop(UTestValues::StaticClass(), TEXT("Placement"));
+
+	ASSERT_TRUE(ImportAll(Placement, TEXT("(Corners[1]=(X=5),Corners(0)=(Y=6))"), Values));
+
+	EXPECT_EQ(Values->Placement.Corners[1].X, 5);
+	EXPECT_EQ(Values->Placement.Corners[0].Y, 6);
+	EXPECT_EQ(Placement->ImportText_InContainer(TEXT("(Corners[2]=(X=1))"), Values, nullptr, PPF_None), nullptr);
+	EXPECT_EQ(Placement->ImportText_InContainer(TEXT("(Corners[]=(X=1))"), Values, nullptr, PPF_None), nullptr);
+	EXPECT_EQ(Placement->ImportText_InContainer(TEXT("(Cell[1]=(X=1))"), Values, nullptr, PPF_None), nullptr);
+}
+
+TEST(PropertyText, ImportingAnArrayReplacesWhatItHeld)
+{
+	UTestValues* Values = NewObject<UTestValues>();
+	Values->Numbers = {9, 9, 9, 9};
+	Values->Placement.Path = {FTestCell{9, 9}};
+	const FProperty* Numbers = Prop(UTestValues::StaticClass(), TEXT("Numbers"));
+	const FProperty* Placement = Prop(UTestValues::StaticClass(), TEXT("Placement"));
+
+	ASSERT_TRUE(ImportAll(Numbers, TEXT("(1, 2)"), Values));
+	ASSERT_TRUE(ImportAll(Placement, TEXT("(Path=((X=1,Y=2),(X=3,Y=4)))"), Values));
+
+	EXPECT_EQ(Values->Numbers, TArray<int32>({1, 2}));
+	ASSERT_EQ(Values->Placement.Path.Num(), 2);
+	EXPECT_EQ(Values->Placement.Path[1].Y, 4);
+	ASSERT_TRUE(ImportAll(Numbers, TEXT("()"), Values));
+	EXPECT_EQ(Values->Numbers.Num(), 0);
+}
+
+TEST(PropertyText, EnumsReadTheirShortOrQualifiedNameOrANumber)
+{
+	UTestValues* Values = NewObject<UTestValues>();
+	const FProperty* Layouts = Prop(UTestValues::StaticClass(), TEXT("Layouts"));
+	const FProperty* Signed = Prop(UTestValues::StaticClass(), TEXT("Signed"));
+
+	ASSERT_TRUE(ImportAll(Layouts, TEXT("(Slots,ETestLayout::Grid,1)"), Values));
+	ASSERT_TRUE(ImportAll(Signed, TEXT("-5"), Values));
+
+	ASSERT_EQ(Values->Layouts.Num(), 3);
+	EXPECT_EQ(Values->Layouts[0], ETestLayout::Slots);
+	EXPECT_EQ(Values->Layouts[1], ETestLayout::Grid);
+	EXPECT_EQ(Values->Layouts[2], ETestLayout::Slots);
+	EXPECT_EQ(Values->Signed, ETestSigned::Below);
+	EXPECT_EQ(Export(Layouts, Values), FString(TEXT("(Slots,Grid,Slots)")));
+}
