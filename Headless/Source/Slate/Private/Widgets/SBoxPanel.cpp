@@ -92,9 +92,12 @@ namespace
 
 			const FMargin Padding = Slot.GetPadding();
 			const AlignmentArrangeResult AcrossResult = AlignChild<Across>(float(AlongAxis<Across>(LocalSize)), Slot, Padding);
-			const float AlongOffset = PositionSoFar + (Orientation == Orient_Horizontal ? Padding.Left : Padding.Top);
+			// Along the axis the child is aligned within its share, so a fill slot need not stretch it.
+			const AlignmentArrangeResult AlongResult = AlignChild<Orientation>(ChildSize + Padding.GetTotalSpaceAlong<Orientation>(), Slot, Padding);
+			const float AlongOffset = PositionSoFar + AlongResult.Offset;
 			const FVector2D Offset = Orientation == Orient_Horizontal ? FVector2D(AlongOffset, AcrossResult.Offset) : FVector2D(AcrossResult.Offset, AlongOffset);
-			const FVector2D Size = Orientation == Orient_Horizontal ? FVector2D(ChildSize, AcrossResult.Size) : FVector2D(AcrossResult.Size, ChildSize);
+			const FVector2D Size =
+				Orientation == Orient_Horizontal ? FVector2D(AlongResult.Size, AcrossResult.Size) : FVector2D(AcrossResult.Size, AlongResult.Size);
 			ArrangedChildren.AddWidget(ChildVisibility, AllottedGeometry.MakeChild(Slot.GetWidget(), Offset, Size));
 
 			PositionSoFar += ChildSize + Padding.GetTotalSpaceAlong<Orientation>();
