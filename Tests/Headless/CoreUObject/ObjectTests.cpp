@@ -167,3 +167,22 @@ TEST(Objects, GeneratedNamesCountFromZeroPerBaseName)
 	const FName Based = MakeUniqueObjectName(Package, UTestSpecifiers::StaticClass(), FName(TEXT("Slot")));
 	EXPECT_EQ(Based.GetPlainNameString(), FString(TEXT("Slot")));
 }
+
+TEST(Objects, ASoftReferenceFindsAnObjectRemadeAtItsPathWhereAWeakOneDoesNot)
+{
+	UPackage* Package = CreatePackage(TEXT("/Game/Tests/Remade"));
+	Package->AddToRoot();
+	UTestBase* First = NewObject<UTestBase>(Package, FName(TEXT("Thing")));
+	const TSoftObjectPtr<UTestBase> Soft(First);
+	const TWeakObjectPtr<UTestBase> Weak(First);
+	EXPECT_EQ(Soft.Get(), First);
+	CollectGarbage();
+	EXPECT_EQ(Soft.Get(), nullptr);
+	EXPECT_FALSE(Soft.IsNull());
+
+	UTestBase* Second = NewObject<UTestBase>(Package, FName(TEXT("Thing")));
+
+	EXPECT_EQ(Soft.Get(), Second);
+	EXPECT_EQ(Weak.Get(), nullptr);
+	Package->RemoveFromRoot();
+}

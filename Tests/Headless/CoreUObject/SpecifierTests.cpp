@@ -158,3 +158,21 @@ TEST(Specifiers, StructAndClassAncestryIsAnsweredByIsChildOf)
 	EXPECT_TRUE(UTestWidget::StaticClass()->IsA<UClass>());
 	EXPECT_FALSE(FTestCell::StaticStruct()->IsA<UClass>());
 }
+
+TEST(Specifiers, EnumLookupsOfUnknownEntriesAnswerNone)
+{
+	UEnum* Enum = StaticEnum<ETestSigned>();
+	EXPECT_EQ(Enum->GetCppForm(), ECppForm::EnumClass);
+	ASSERT_EQ(Enum->NumEnums(), 3);
+	EXPECT_EQ(Enum->GetNameByIndex(2), FName(TEXT("ETestSigned::ETestSigned_MAX")));
+	EXPECT_EQ(Enum->GetNameByValue(1000), FName(TEXT("ETestSigned::Above")));
+	EXPECT_EQ(Enum->GetNameByValue(3), NAME_None);
+	EXPECT_TRUE(Enum->GetNameStringByValue(3).IsEmpty());
+	EXPECT_EQ(Enum->GetIndexByValue(-5), 0);
+	EXPECT_EQ(Enum->GetIndexByValue(3), INDEX_NONE);
+	EXPECT_EQ(Enum->GetValueByName(FName(TEXT("ETestSigned::Below"))), -5);
+	EXPECT_EQ(Enum->GetValueByName(FName(TEXT("Below"))), -5);
+	EXPECT_EQ(Enum->GetValueByNameString(FString(TEXT("Sideways"))), INDEX_NONE);
+	EXPECT_EQ(Enum->GetIndexByName(FName(TEXT("ETestSigned::Above"))), 1);
+	EXPECT_EQ(Enum->GetDisplayNameTextByValue(1000).ToString(), FString(TEXT("Above")));
+}
