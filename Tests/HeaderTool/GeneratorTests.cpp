@@ -320,6 +320,14 @@ TEST(GeneratedStruct, RegistersUnderItsNameWithoutPrefixAndChainsToItsSuperStruc
 	EXPECT_THAT(Files.Source, HasSubstr("AddProperty<decltype(FGenRow::Count)>(Struct, TEXT(\"Count\"), "));
 }
 
+TEST(GeneratedStruct, WithoutASuperStructHasNoSuperTypedefAndNoSuperStruct)
+{
+	const FGenerated Files = Generate("#pragma once\nUSTRUCT()\nstruct FGenCell\n{\n\tGENERATED_BODY()\n};\n");
+	EXPECT_THAT(Files.Header, HasSubstr("\tstatic class UScriptStruct* StaticStruct();\n\n"));
+	EXPECT_THAT(Files.Header, Not(HasSubstr("Super;")));
+	EXPECT_THAT(Files.Source, HasSubstr("TEXT(\"GenCell\"), nullptr, new UScriptStruct::TCppStructOps<FGenCell>(), STRUCT_Native);\n"));
+}
+
 TEST(GeneratedEnum, ListsEveryValueAndKeepsEachValuesMetadataAtItsIndex)
 {
 	const FGenerated Files = Generate(
@@ -568,3 +576,16 @@ TEST(GeneratedDelegates, WrappersCopyArgumentsIntoTheBlockAndReturnItsResult)
 	// The generated header declares the same wrappers the source defines.
 	EXPECT_THAT(Files.Header, HasSubstr("\tbool FGenFilter_DelegateWrapper(const FScriptDelegate& GenFilter, FName ItemId);\n"));
 }
+
+TEST(GeneratedDelegates, AWrapperCopiesNonConstReferenceArgumentsBackAfterTheCall)
+{
+	const FGenerated Files = Generate(
+		"#pragma once\n"
+		"DECLARE_DYNAMIC_DELEGATE_TwoParams(FGenFill, TArray<int32>&, Slots, const FGenRow&, Row);\n");
+	EXPECT_EQ(Block(Files.Source, "void FGenFill_DelegateWrapper("),
+		"void FGenFill_DelegateWrapper(const FScriptDelegate& GenFill, TArray<int32>& Slots, const FGenRow& Row)\n{\n"
+		"\t_Script_QuorvelUI_eventGenFill_Parms Parms;\n\tParms.Slots = Slots;\n\tParms.Row = Row;\n"
+		"\tGenFill.ProcessDelegate<UObject>(&Parms);\n\tSlots = Parms.Slots;\n}\n");
+	EXPECT_EQ(FunctionFlagsOf(Files.Source, "GenFill__DelegateSignature"), FUNC_Public | FUNC_Delegate | FUNC_HasOutParms);
+}
+
