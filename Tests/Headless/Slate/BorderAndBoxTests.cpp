@@ -138,3 +138,23 @@ TEST(BoxTest, AnOverrideBoundToAnAttributeIsReadAtEachPrepass)
 	Box->SlatePrepass(1.0f);
 	EXPECT_EQ(Box->GetDesiredSize().X, 64.0);
 }
+
+TEST(BorderTest, AHiddenChildStillTakesItsSpaceWhileACollapsedOneTakesNone)
+{
+	const TSharedRef<SFixedSize> Content = Fixed(40.0, 30.0);
+	const TSharedRef<SBorder> Border = SNew(SBorder).Padding(5.0f)[Content];
+	Content->SetVisibility(EVisibility::Hidden);
+	Border->SlatePrepass(1.0f);
+	EXPECT_EQ(Border->GetDesiredSize(), FVector2D(50.0, 40.0));
+	EXPECT_EQ(ArrangeIn(Border, 100.0, 100.0).Num(), 0);
+
+	Content->SetVisibility(EVisibility::Collapsed);
+	Border->SlatePrepass(1.0f);
+	EXPECT_EQ(Border->GetDesiredSize(), FVector2D(0.0, 0.0));
+	// A collapsed child is skipped by the prepass and keeps no layout scale from it.
+	EXPECT_FALSE(Content->GetPrepassLayoutScaleMultiplier().IsSet());
+
+	Content->SetVisibility(EVisibility::Visible);
+	Border->SlatePrepass(1.5f);
+	EXPECT_EQ(Content->GetPrepassLayoutScaleMultiplier().Get(0.0f), 1.5f);
+}

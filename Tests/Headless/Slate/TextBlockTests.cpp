@@ -210,3 +210,30 @@ TEST(TextBlockTest, AutoWrapFollowsTheWidthOfTheLastPaint)
 	EXPECT_LE(Wrapped.X, Narrow);
 	EXPECT_EQ(Wrapped.Y, 2.0 * Unwrapped.Y);
 }
+
+TEST(TextBlockTest, AutoWrapUsesTheSmallerOfTheWrapWidthAndTheRoomInsideTheMargin)
+{
+	const TSharedRef<STextBlock> Block = SNew(STextBlock)
+		.Text(FText::FromString(TEXT("one two three four five")))
+		.Font(FontOf(9.0f))
+		.AutoWrapText(true)
+		.Margin(FMargin(10.0f, 0.0f, 10.0f, 0.0f));
+	const float OneWord = float(DesiredSizeOf(Text(TEXT("three"))).X) + 1.0f;
+	const float ThreeWords = float(DesiredSizeOf(Text(TEXT("one two three"))).X) + 1.0f;
+
+	// Painted just wide enough for three words plus the margin: two lines.
+	FSlateWindowElementList Elements;
+	PaintIn(Block, Elements, ThreeWords + 20.0f, 100.0);
+	DesiredSizeOf(Block);
+	EXPECT_EQ(Block->GetLines().Num(), 2);
+
+	// A narrower explicit wrap width wins: one word a line.
+	Block->SetWrapTextAt(OneWord);
+	DesiredSizeOf(Block);
+	EXPECT_EQ(Block->GetLines().Num(), 5);
+
+	// A wider one does not.
+	Block->SetWrapTextAt(1000.0f);
+	DesiredSizeOf(Block);
+	EXPECT_EQ(Block->GetLines().Num(), 2);
+}
