@@ -195,7 +195,7 @@ TEST(GeneratedFiles, TheModuleInitFileConstructsTheScriptPackageAndRegistersIt)
 	EXPECT_THAT(Files.Source, HasSubstr("#include \"" + HeaderPath + "\"\n"));
 }
 
-TEST(GeneratedFiles, AnUnchangedFileIsNotRewritten)
+TEST(GeneratedFiles, OnlyAFileWhoseTextChangedIsRewritten)
 {
 	const std::string Text = "#pragma once\nUENUM()\nenum class EGen : uint8 { A };\n";
 	FModuleModel Module;
