@@ -178,3 +178,18 @@ TEST(GeometryTest, EqualGeometriesCompareEqualAndAnyDifferenceShows)
 	EXPECT_EQ(A, Root.MakeChild(FVector2D(3.0, 4.0), FSlateLayoutTransform(FVector2D(1.0, 2.0))));
 	EXPECT_EQ(FGeometry().GetAbsoluteSize(), FVector2D(0.0, 0.0));
 }
+
+TEST(GeometryTest, NestedRenderTransformsApplyTheChildsFirstThenItsParents)
+{
+	const FGeometry Root = FGeometry::MakeRoot(FVector2D(800.0, 600.0), FSlateLayoutTransform());
+	// The parent is moved 100 right; its child, placed at (10, 0), is turned about its own corner.
+	const FGeometry Parent = Root.MakeChild(FVector2D(200.0, 200.0), FSlateLayoutTransform(), FSlateRenderTransform(FVector2f(100.0f, 0.0f)),
+		FVector2D(0.0, 0.0));
+	const FGeometry Child = Parent.MakeChild(FVector2D(20.0, 10.0), FSlateLayoutTransform(FVector2D(10.0, 0.0)), QuarterTurn, FVector2D(0.0, 0.0));
+
+	// (20, 0) turns to (0, 20), moves to (10, 20) in the parent, then to (110, 20).
+	EXPECT_EQ(FVector2f(Child.LocalToAbsolute(FVector2f(20.0f, 0.0f))), FVector2f(110.0f, 20.0f));
+	EXPECT_EQ(Child.GetRenderBoundingRect(), FSlateRect(100.0f, 0.0f, 110.0f, 20.0f));
+	EXPECT_EQ(Child.GetLayoutBoundingRect(), FSlateRect(10.0f, 0.0f, 30.0f, 10.0f));
+	EXPECT_EQ(FVector2f(Child.AbsoluteToLocal(FVector2f(105.0f, 10.0f))), FVector2f(10.0f, 5.0f));
+}
