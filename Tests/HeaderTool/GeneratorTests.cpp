@@ -307,6 +307,28 @@ TEST(GeneratedProperties, AreAddedAtTheirOffsetWithTheirMetadataAndReferencedCla
 	EXPECT_THAT(MetaDataAfter(Files.Source, "TEXT(\"Cells\")", "\t\t}\n"), HasSubstr("TEXT(\"EditInline\") = TEXT(\"true\")\n"));
 }
 
+TEST(GeneratedProperties, EachReferencedClassIsDeclaredOnceWhereverItIsUsed)
+{
+	const FGenerated Files = Generate(
+		"#pragma once\n"
+		"DECLARE_DYNAMIC_DELEGATE_OneParam(FGenPicked, UGenCell*, Cell);\n"
+		"UCLASS()\nclass UGenPanel : public UUserWidget\n{\n\tGENERATED_BODY()\npublic:\n"
+		"\tUPROPERTY()\n\tTObjectPtr<UGenCell> Selected;\n"
+		"\tUPROPERTY()\n\tTWeakObjectPtr<UGenCell> Hovered;\n"
+		"\tUPROPERTY()\n\tTSubclassOf<UGenCell> CellClass;\n"
+		"\tUPROPERTY()\n\tUClass* AnyClass;\n"
+		"\tUFUNCTION(BlueprintCallable)\n\tUGenCell* Pick(UGenCell* Near);\n"
+		"};\n");
+	const std::string Declaration = "UClass* Z_Construct_UClass_UGenCell_NoRegister();\n";
+	const size_t First = Files.Source.find(Declaration);
+	ASSERT_NE(First, std::string::npos);
+	EXPECT_EQ(Files.Source.find(Declaration, First + 1), std::string::npos);
+	EXPECT_THAT(Files.Source, HasSubstr("int32(offsetof(UGenPanel, CellClass)), &Z_Construct_UClass_UGenCell_NoRegister);"));
+	// UClass* itself names no class to load first.
+	EXPECT_THAT(Files.Source, HasSubstr("int32(offsetof(UGenPanel, AnyClass)));"));
+	EXPECT_THAT(Files.Source, Not(HasSubstr("Z_Construct_UClass_UClass_NoRegister")));
+}
+
 TEST(GeneratedStruct, RegistersUnderItsNameWithoutPrefixAndChainsToItsSuperStruct)
 {
 	const FGenerated Files = Generate(
