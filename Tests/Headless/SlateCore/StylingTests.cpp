@@ -77,24 +77,6 @@ TEST(SlateBrushTest, ADefaultBrushIsAWhiteThirtyTwoUnitUntiledImageWithoutAResou
 	EXPECT_EQ(Brush.GetTint(FWidgetStyle()), FLinearColor::White);
 }
 
-TEST(SlateBrushTest, BrushesAreEqualOnlyWhenEveryDrawingPropertyMatches)
-{
-	const FSlateBrush Base;
-	FSlateBrush Sized;
-	Sized.SetImageSize(FVector2D(16.0, 8.0));
-	EXPECT_EQ(Sized.ImageSize, FVector2f(16.0f, 8.0f));
-	FSlateBrush Boxed;
-	Boxed.DrawAs = ESlateBrushDrawType::Box;
-	FSlateBrush Tinted;
-	Tinted.TintColor = FSlateColor::UseForeground();
-
-	EXPECT_EQ(Base, FSlateBrush());
-	EXPECT_NE(Base, Sized);
-	EXPECT_NE(Base, Boxed);
-	EXPECT_NE(Base, Tinted);
-	EXPECT_EQ(Tinted.GetTint(FWidgetStyle().SetForegroundColor(FLinearColor::Red)), FLinearColor::Red);
-}
-
 TEST(DrawElementTest, BoxesAndTextThatWouldDrawNothingAreNotAdded)
 {
 	FSlateWindowElementList Elements;
@@ -162,21 +144,4 @@ TEST(VisibilityTest, TheVisibleFilterTakesEverythingDrawnAndNothingHiddenOrColla
 	const FArrangedChildren Everything(EVisibility::All);
 	EXPECT_TRUE(Everything.Accepts(EVisibility::Hidden));
 	EXPECT_TRUE(Everything.Accepts(EVisibility::Collapsed));
-}
-
-TEST(VisibilityTest, HitTestingFlagsMatchEachNamedVisibility)
-{
-	EXPECT_TRUE(EVisibility::Visible.IsHitTestVisible());
-	EXPECT_TRUE(EVisibility::Visible.AreChildrenHitTestVisible());
-	EXPECT_FALSE(EVisibility::SelfHitTestInvisible.IsHitTestVisible());
-	EXPECT_TRUE(EVisibility::SelfHitTestInvisible.AreChildrenHitTestVisible());
-	EXPECT_FALSE(EVisibility::HitTestInvisible.IsHitTestVisible());
-	EXPECT_FALSE(EVisibility::HitTestInvisible.AreChildrenHitTestVisible());
-	EXPECT_TRUE(EVisibility::HitTestInvisible.IsVisible());
-	EXPECT_FALSE(EVisibility::Hidden.IsVisible());
-	EXPECT_FALSE(EVisibility::Collapsed.IsVisible());
-	EXPECT_FALSE(EVisibility::Hidden.IsHitTestVisible());
-	EXPECT_EQ(EVisibility::Hidden.ToString(), TEXT("Hidden"));
-	EXPECT_EQ(EVisibility::SelfHitTestInvisible.ToString(), TEXT("SelfHitTestInvisible"));
-	EXPECT_EQ(EVisibility().ToString(), TEXT("Visible"));
 }
