@@ -126,7 +126,8 @@ public:
 	// Returns the index the widget was at, or INDEX_NONE.
 	int32 Remove(const TSharedRef<SWidget>& SlotWidget)
 	{
-		for (int32 Index = 0; Index < Children.Num(); ++Index)
+		// From the end: clearing a panel removes its children last first, which keeps that linear.
+		for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
 		{
 			if (Children[Index]->GetWidget() == SlotWidget)
 			{
