@@ -8,6 +8,7 @@
 #include "HttpManager.h"
 #include "HttpModule.h"
 #include "QuorvelStashPanel.h"
+#include "Serialization/JsonReader.h"
 #include "Serialization/JsonSerializer.h"
 #include "Serialization/JsonWriter.h"
 #include "UObject/Package.h"
@@ -203,6 +204,19 @@ namespace
 		}
 		return Reply + TEXT("]}");
 	}
+
+	// The client's share of the ensure completion: the reply text turned into the JSON object the panel reads.
+	void BM_ParseEnsureReply_5000Stacks(benchmark::State& State)
+	{
+		const FString Reply = EnsureReply(5000);
+		for (auto _ : State)
+		{
+			TSharedPtr<FJsonObject> Object;
+			FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(Reply), Object);
+			benchmark::DoNotOptimize(Object);
+		}
+	}
+	BENCHMARK(BM_ParseEnsureReply_5000Stacks)->Unit(benchmark::kMillisecond);
 
 	// The whole ensure completion for 5,000 stacks: JSON parse, records, and the drawing it ends in.
 	// Subtract BM_ShowContainer_100x100_5000Stacks for the reading alone.
