@@ -1,5 +1,6 @@
 #include "Containers/Map.h"
 #include "Containers/Set.h"
+#include "Containers/UnrealString.h"
 #include "Templates/UniquePtr.h"
 
 #include <gtest/gtest.h>
@@ -171,6 +172,25 @@ TEST(MapTest, LookupsAndRemovalsReportWhatTheyFound)
 	EXPECT_EQ(Map.Num(), 1);
 
 	EXPECT_DEATH(Map.FindChecked(1), "Value != nullptr");
+}
+
+TEST(MapTest, StringKeysAreFoundByHashThroughAViewOfAnyCase)
+{
+	TMap<FString, int32> Map;
+	Map.Add(TEXT("item_id"), 1);
+	Map.Add(TEXT("item"), 2);
+
+	// Views cut out of a longer text: not terminated where the key ends.
+	const FString Text(TEXT("ITEM_ID:item"));
+	const FStringView Upper = FStringView(Text).Left(7);
+	const FStringView Prefix = FStringView(Text).Left(4);
+	EXPECT_EQ(GetTypeHash(Upper), GetTypeHash(FString(TEXT("item_id"))));
+	ASSERT_NE(Map.FindByHash(GetTypeHash(Upper), Upper), nullptr);
+	EXPECT_EQ(*Map.FindByHash(GetTypeHash(Upper), Upper), 1);
+	ASSERT_NE(Map.FindByHash(GetTypeHash(Prefix), Prefix), nullptr);
+	EXPECT_EQ(*Map.FindByHash(GetTypeHash(Prefix), Prefix), 2);
+	const FStringView Missing = FStringView(Text).Left(6);
+	EXPECT_EQ(Map.FindByHash(GetTypeHash(Missing), Missing), nullptr);
 }
 
 TEST(MapTest, KeyAndValueArraysFollowIterationOrder)

@@ -30,6 +30,11 @@ TEST(JsonObject, FindsFieldsWhateverTheCaseOfTheirNames)
 	EXPECT_TRUE(Stash->HasTypedField(TEXT("size"), EJson::Object));
 	EXPECT_EQ(Stash->GetObjectField(TEXT("SIZE"))->GetIntegerField(TEXT("W")), 4);
 
+	// A name cut out of a longer text, so not terminated where it ends.
+	const FString Path(TEXT("SIZE.w"));
+	EXPECT_TRUE(Stash->HasTypedField<EJson::Object>(FStringView(Path).Left(4)));
+	EXPECT_FALSE(Stash->HasField(FStringView(Path).Left(3)));
+
 	Stash->RemoveField(TEXT("name"));
 	EXPECT_FALSE(Stash->HasField(TEXT("Name")));
 }

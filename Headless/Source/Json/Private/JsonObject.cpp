@@ -3,22 +3,31 @@
 #include <cmath>
 #include <limits>
 
-TSharedPtr<FJsonValue> FJsonObject::TryGetField(const FString& FieldName) const
+namespace UE::Json::Private
 {
-	const TSharedPtr<FJsonValue>* Field = Values.Find(FieldName);
+	/** The stored value, looked up without copying the name or the shared pointer; null when absent or stored invalid. */
+	const FJsonValue* FindValue(const FJsonObject& Object, FStringView FieldName)
+	{
+		const TSharedPtr<FJsonValue>* Field = Object.Values.FindByHash(GetTypeHash(FieldName), FieldName);
+		return Field != nullptr ? Field->Get() : nullptr;
+	}
+}
+
+TSharedPtr<FJsonValue> FJsonObject::TryGetField(FStringView FieldName) const
+{
+	const TSharedPtr<FJsonValue>* Field = Values.FindByHash(GetTypeHash(FieldName), FieldName);
 	return Field != nullptr ? *Field : TSharedPtr<FJsonValue>();
 }
 
-bool FJsonObject::HasField(const FString& FieldName) const
+bool FJsonObject::HasField(FStringView FieldName) const
 {
-	const TSharedPtr<FJsonValue>* Field = Values.Find(FieldName);
-	return Field != nullptr && Field->IsValid();
+	return UE::Json::Private::FindValue(*this, FieldName) != nullptr;
 }
 
-bool FJsonObject::HasTypedField(const FString& FieldName, EJson JsonType) const
+bool FJsonObject::HasTypedField(FStringView FieldName, EJson JsonType) const
 {
-	const TSharedPtr<FJsonValue>* Field = Values.Find(FieldName);
-	return Field != nullptr && Field->IsValid() && (*Field)->Type == JsonType;
+	const FJsonValue* Field = UE::Json::Private::FindValue(*this, FieldName);
+	return Field != nullptr && Field->Type == JsonType;
 }
 
 void FJsonObject::SetField(const FString& FieldName, const TSharedPtr<FJsonValue>& Value)
@@ -26,17 +35,17 @@ void FJsonObject::SetField(const FString& FieldName, const TSharedPtr<FJsonValue
 	Values.Add(FieldName, Value);
 }
 
-void FJsonObject::RemoveField(const FString& FieldName)
+void FJsonObject::RemoveField(FStringView FieldName)
 {
-	Values.Remove(FieldName);
+	Values.Remove(FString(FieldName));
 }
 
-double FJsonObject::GetNumberField(const FString& FieldName) const
+double FJsonObject::GetNumberField(FStringView FieldName) const
 {
 	return GetField<EJson::None>(FieldName)->AsNumber();
 }
 
-int32 FJsonObject::GetIntegerField(const FString& FieldName) const
+int32 FJsonObject::GetIntegerField(FStringView FieldName) const
 {
 	// The engine converts with a plain cast, undefined outside int32; clamping keeps that case defined.
 	const double Number = GetNumberField(FieldName);
@@ -58,59 +67,59 @@ int32 FJsonObject::GetIntegerField(const FString& FieldName) const
 namespace UE::Json::Private
 {
 	template <typename NumberType>
-	bool TryGetNumberField(const FJsonObject& Object, const FString& FieldName, NumberType& OutNumber)
+	bool TryGetNumberField(const FJsonObject& Object, FStringView FieldName, NumberType& OutNumber)
 	{
-		const TSharedPtr<FJsonValue> Field = Object.TryGetField(FieldName);
-		return Field.IsValid() && Field->TryGetNumber(OutNumber);
+		const FJsonValue* Field = FindValue(Object, FieldName);
+		return Field != nullptr && Field->TryGetNumber(OutNumber);
 	}
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, float& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, float& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, double& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, double& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, int8& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, int8& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, int16& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, int16& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, int32& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, int32& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, int64& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, int64& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, uint8& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, uint8& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, uint16& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, uint16& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, uint32& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, uint32& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
 
-bool FJsonObject::TryGetNumberField(const FString& FieldName, uint64& OutNumber) const
+bool FJsonObject::TryGetNumberField(FStringView FieldName, uint64& OutNumber) const
 {
 	return UE::Json::Private::TryGetNumberField(*this, FieldName, OutNumber);
 }
@@ -120,15 +129,15 @@ void FJsonObject::SetNumberField(const FString& FieldName, double Number)
 	Values.Add(FieldName, MakeShared<FJsonValueNumber>(Number));
 }
 
-FString FJsonObject::GetStringField(const FString& FieldName) const
+FString FJsonObject::GetStringField(FStringView FieldName) const
 {
 	return GetField<EJson::None>(FieldName)->AsString();
 }
 
-bool FJsonObject::TryGetStringField(const FString& FieldName, FString& OutString) const
+bool FJsonObject::TryGetStringField(FStringView FieldName, FString& OutString) const
 {
-	const TSharedPtr<FJsonValue> Field = TryGetField(FieldName);
-	return Field.IsValid() && Field->TryGetString(OutString);
+	const FJsonValue* Field = UE::Json::Private::FindValue(*this, FieldName);
+	return Field != nullptr && Field->TryGetString(OutString);
 }
 
 void FJsonObject::SetStringField(const FString& FieldName, const FString& StringValue)
@@ -136,15 +145,15 @@ void FJsonObject::SetStringField(const FString& FieldName, const FString& String
 	Values.Add(FieldName, MakeShared<FJsonValueString>(StringValue));
 }
 
-bool FJsonObject::GetBoolField(const FString& FieldName) const
+bool FJsonObject::GetBoolField(FStringView FieldName) const
 {
 	return GetField<EJson::None>(FieldName)->AsBool();
 }
 
-bool FJsonObject::TryGetBoolField(const FString& FieldName, bool& OutBool) const
+bool FJsonObject::TryGetBoolField(FStringView FieldName, bool& OutBool) const
 {
-	const TSharedPtr<FJsonValue> Field = TryGetField(FieldName);
-	return Field.IsValid() && Field->TryGetBool(OutBool);
+	const FJsonValue* Field = UE::Json::Private::FindValue(*this, FieldName);
+	return Field != nullptr && Field->TryGetBool(OutBool);
 }
 
 void FJsonObject::SetBoolField(const FString& FieldName, bool InValue)
@@ -152,16 +161,16 @@ void FJsonObject::SetBoolField(const FString& FieldName, bool InValue)
 	Values.Add(FieldName, MakeShared<FJsonValueBoolean>(InValue));
 }
 
-const TArray<TSharedPtr<FJsonValue>>& FJsonObject::GetArrayField(const FString& FieldName) const
+const TArray<TSharedPtr<FJsonValue>>& FJsonObject::GetArrayField(FStringView FieldName) const
 {
 	// The temporary from GetField dies here, but AsArray returns the stored field's array or a static one.
 	return GetField<EJson::Array>(FieldName)->AsArray();
 }
 
-bool FJsonObject::TryGetArrayField(const FString& FieldName, const TArray<TSharedPtr<FJsonValue>>*& OutArray) const
+bool FJsonObject::TryGetArrayField(FStringView FieldName, const TArray<TSharedPtr<FJsonValue>>*& OutArray) const
 {
-	const TSharedPtr<FJsonValue>* Field = Values.Find(FieldName);
-	return Field != nullptr && Field->IsValid() && (*Field)->TryGetArray(OutArray);
+	const FJsonValue* Field = UE::Json::Private::FindValue(*this, FieldName);
+	return Field != nullptr && Field->TryGetArray(OutArray);
 }
 
 void FJsonObject::SetArrayField(const FString& FieldName, const TArray<TSharedPtr<FJsonValue>>& Array)
@@ -169,18 +178,18 @@ void FJsonObject::SetArrayField(const FString& FieldName, const TArray<TSharedPt
 	Values.Add(FieldName, MakeShared<FJsonValueArray>(Array));
 }
 
-const TSharedPtr<FJsonObject>& FJsonObject::GetObjectField(const FString& FieldName) const
+const TSharedPtr<FJsonObject>& FJsonObject::GetObjectField(FStringView FieldName) const
 {
 	return GetField<EJson::Object>(FieldName)->AsObject();
 }
 
-bool FJsonObject::TryGetObjectField(const FString& FieldName, const TSharedPtr<FJsonObject>*& OutObject) const
+bool FJsonObject::TryGetObjectField(FStringView FieldName, const TSharedPtr<FJsonObject>*& OutObject) const
 {
-	const TSharedPtr<FJsonValue>* Field = Values.Find(FieldName);
-	return Field != nullptr && Field->IsValid() && (*Field)->TryGetObject(OutObject);
+	const FJsonValue* Field = UE::Json::Private::FindValue(*this, FieldName);
+	return Field != nullptr && Field->TryGetObject(OutObject);
 }
 
-bool FJsonObject::TryGetObjectField(const FString& FieldName, TSharedPtr<FJsonObject>& OutObject) const
+bool FJsonObject::TryGetObjectField(FStringView FieldName, TSharedPtr<FJsonObject>& OutObject) const
 {
 	const TSharedPtr<FJsonObject>* Object = nullptr;
 	if (!TryGetObjectField(FieldName, Object))

@@ -634,11 +634,11 @@ FString FString::ChrN(int32 NumCharacters, TCHAR Char)
 	return Result;
 }
 
-uint32 GetTypeHash(const FString& S)
+uint32 GetTypeHash(FStringView View)
 {
 	// FNV-1a over ASCII-folded code units, so strings equal under operator== hash alike.
 	uint32 Hash = 2166136261u;
-	for (const TCHAR Char : S)
+	for (const TCHAR Char : View)
 	{
 		const uint16 Unit = uint16(FGenericPlatformStricmp::ToLowerAscii(Char));
 		Hash = (Hash ^ (Unit & 0xff)) * 16777619u;

@@ -30,6 +30,13 @@ struct TDefaultMapKeyFuncs
 		return A == B;
 	}
 
+	/** Lets FindByHash search with another type that compares equal to a key, such as a view of a string key. */
+	template <typename ComparableKey>
+	static FORCEINLINE bool Matches(KeyInitType A, const ComparableKey& B)
+	{
+		return A == B;
+	}
+
 	static FORCEINLINE uint32 GetKeyHash(KeyInitType Key)
 	{
 		return GetTypeHash(Key);
@@ -218,6 +225,20 @@ public:
 	const ValueType* Find(KeyConstPointerType Key) const
 	{
 		return const_cast<TMap*>(this)->Find(Key);
+	}
+
+	/** Find with a precomputed hash and a key of another type that compares equal to the stored key. */
+	template <typename ComparableKey>
+	ValueType* FindByHash(uint32 KeyHash, const ComparableKey& Key)
+	{
+		ElementType* Pair = Pairs.FindByHash(KeyHash, Key);
+		return Pair ? &Pair->Value : nullptr;
+	}
+
+	template <typename ComparableKey>
+	const ValueType* FindByHash(uint32 KeyHash, const ComparableKey& Key) const
+	{
+		return const_cast<TMap*>(this)->FindByHash(KeyHash, Key);
 	}
 
 	ValueType FindRef(KeyConstPointerType Key) const

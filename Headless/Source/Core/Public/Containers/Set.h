@@ -75,6 +75,13 @@ struct DefaultKeyFuncs
 		return A == B;
 	}
 
+	/** Lets FindByHash search with another type that compares equal to a key, such as a view of a string key. */
+	template <typename ComparableKey>
+	static FORCEINLINE bool Matches(KeyInitType A, const ComparableKey& B)
+	{
+		return A == B;
+	}
+
 	static FORCEINLINE uint32 GetKeyHash(KeyInitType Key)
 	{
 		return GetTypeHash(Key);

@@ -403,6 +403,11 @@ public:
 		return FCString::Stricmp(*Lhs, Rhs ? Rhs : TEXT("")) == 0;
 	}
 
+	friend bool operator==(const FString& Lhs, FStringView Rhs)
+	{
+		return FStringView(Lhs).Equals(Rhs, ESearchCase::IgnoreCase);
+	}
+
 	friend bool operator<(const FString& Lhs, const FString& Rhs)
 	{
 		return FCString::Stricmp(*Lhs, *Rhs) < 0;
@@ -527,8 +532,13 @@ private:
 	DataType Data;
 };
 
-/** Case-blind, to agree with operator==. */
-CORE_API uint32 GetTypeHash(const FString& S);
+/** Case-blind, to agree with operator==; a view of the same characters hashes alike, so maps keyed on FString can be searched with one. */
+CORE_API uint32 GetTypeHash(FStringView View);
+
+inline uint32 GetTypeHash(const FString& S)
+{
+	return GetTypeHash(FStringView(S));
+}
 
 // Lexical conversions used by generic code (config, reflection, command lines).
 inline FString LexToString(const FString& Str)
