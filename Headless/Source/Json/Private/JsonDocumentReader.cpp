@@ -99,7 +99,7 @@ namespace UE::Json::Private
 			bool end_object()
 			{
 				TSharedPtr<FJsonObject> Object = MoveTemp(Stack.Top().Object);
-				Stack.Pop();
+				Stack.Pop(EAllowShrinking::No);
 				return AddValue(MakeShared<FJsonValueObject>(MoveTemp(Object)));
 			}
 
@@ -116,7 +116,7 @@ namespace UE::Json::Private
 			bool end_array()
 			{
 				TArray<TSharedPtr<FJsonValue>> Elements = MoveTemp(Stack.Top().Elements);
-				Stack.Pop();
+				Stack.Pop(EAllowShrinking::No);
 				return AddValue(MakeShared<FJsonValueArray>(MoveTemp(Elements)));
 			}
 
@@ -170,8 +170,9 @@ namespace UE::Json::Private
 				FFrame& Frame = Stack.Top();
 				if (Frame.Object.IsValid())
 				{
-					// A repeated key replaces the earlier value in its place, as SetField does.
-					Frame.Object->SetField(Frame.PendingKey, Value);
+					// A repeated key replaces the earlier value in its place, as SetField does. The key
+					// is spent here: the next value in this object comes after a key event of its own.
+					Frame.Object->Values.Add(MoveTemp(Frame.PendingKey), MoveTemp(Value));
 				}
 				else
 				{
