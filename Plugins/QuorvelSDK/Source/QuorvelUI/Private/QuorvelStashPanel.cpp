@@ -254,6 +254,7 @@ void UQuorvelStashPanel::LoadStash()
 					const TArray<TSharedPtr<FJsonValue>>* Items = nullptr;
 					if (Container->TryGetArrayField(TEXT("items"), Items))
 					{
+						Record.Items.Reserve(Items->Num());
 						for (const TSharedPtr<FJsonValue>& Element : *Items)
 						{
 							const TSharedPtr<FJsonObject>* Stack = nullptr;
@@ -274,7 +275,7 @@ void UQuorvelStashPanel::LoadStash()
 							(*Stack)->TryGetNumberField(TEXT("grid_w"), Instance.GridW);
 							(*Stack)->TryGetNumberField(TEXT("grid_h"), Instance.GridH);
 							(*Stack)->TryGetBoolField(TEXT("rotated"), Instance.bRotated);
-							Record.Items.Add(Instance);
+							Record.Items.Add(MoveTemp(Instance));
 						}
 					}
 
