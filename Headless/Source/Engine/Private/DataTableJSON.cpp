@@ -230,7 +230,7 @@ bool FDataTableImporterJSON::ReadValue(const FJsonValue& Value, const FProperty*
 	FString Text;
 	const bool bIsText = Value.Type == EJson::String && Value.TryGetString(Text);
 
-	if (const FStrProperty* StrProperty = CastField<FStrProperty>(Property))
+	if (CastField<FStrProperty>(Property))
 	{
 		if (Value.Type == EJson::Array || Value.Type == EJson::Object || !Value.TryGetString(Text))
 		{
