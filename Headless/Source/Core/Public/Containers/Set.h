@@ -90,35 +90,44 @@ struct DefaultKeyFuncs
 
 namespace UE::Core::Private
 {
-	// One slot of the sparse storage: an element, or a link in the free list.
+	// One slot of the sparse storage: an element, or a link in the free list. As in the engine's
+	// sparse array, the link shares the element's storage; a free slot is in no hash chain, so its
+	// chain link marks it free. An element plus eight bytes keeps small maps' storage compact.
 	template <typename ElementType>
 	struct TSetSlot
 	{
+		static constexpr int32 FreeMarker = -2;
+
 		TSetSlot()
+			: NextFreeIndex(INDEX_NONE)
 		{
 		}
 
 		TSetSlot(const TSetSlot& Other)
 			: KeyHash(Other.KeyHash)
 			, HashNextId(Other.HashNextId)
-			, NextFreeIndex(Other.NextFreeIndex)
-			, bAllocated(Other.bAllocated)
 		{
-			if (bAllocated)
+			if (IsAllocated())
 			{
 				new (&Element) ElementType(Other.Element);
+			}
+			else
+			{
+				NextFreeIndex = Other.NextFreeIndex;
 			}
 		}
 
 		TSetSlot(TSetSlot&& Other)
 			: KeyHash(Other.KeyHash)
 			, HashNextId(Other.HashNextId)
-			, NextFreeIndex(Other.NextFreeIndex)
-			, bAllocated(Other.bAllocated)
 		{
-			if (bAllocated)
+			if (IsAllocated())
 			{
 				new (&Element) ElementType(MoveTemp(Other.Element));
+			}
+			else
+			{
+				NextFreeIndex = Other.NextFreeIndex;
 			}
 		}
 
@@ -126,20 +135,25 @@ namespace UE::Core::Private
 
 		~TSetSlot()
 		{
-			if (bAllocated)
+			if (IsAllocated())
 			{
 				Element.~ElementType();
 			}
 		}
 
+		FORCEINLINE bool IsAllocated() const
+		{
+			return HashNextId != FreeMarker;
+		}
+
 		union
 		{
 			ElementType Element;
+			int32 NextFreeIndex;
 		};
 		uint32 KeyHash = 0;
-		int32 HashNextId = INDEX_NONE;
-		int32 NextFreeIndex = INDEX_NONE;
-		bool bAllocated = false;
+		/** The next slot in this slot's hash chain, or FreeMarker while the slot holds no element. */
+		int32 HashNextId = FreeMarker;
 	};
 }
 
@@ -212,7 +226,7 @@ public:
 	FORCEINLINE bool IsValidId(FSetElementId Id) const
 	{
 		const int32 Index = Id.AsInteger();
-		return Index >= 0 && Index < Slots.Num() && Slots[Index].bAllocated;
+		return Index >= 0 && Index < Slots.Num() && Slots[Index].IsAllocated();
 	}
 
 	void Empty(int32 ExpectedNumElements = 0)
@@ -243,7 +257,7 @@ public:
 	void Shrink()
 	{
 		// Trailing free slots can go; the ones inside must stay so ids remain valid.
-		while (Slots.Num() > 0 && !Slots.Last().bAllocated)
+		while (Slots.Num() > 0 && !Slots.Last().IsAllocated())
 		{
 			Slots.Pop(EAllowShrinking::No);
 		}
@@ -262,7 +276,7 @@ public:
 		Packed.Reserve(NumElements);
 		for (FSlot& Slot : Slots)
 		{
-			if (Slot.bAllocated)
+			if (Slot.IsAllocated())
 			{
 				Packed.Add(MoveTemp(Slot));
 			}
@@ -428,8 +442,7 @@ public:
 		*Link = Slot.HashNextId;
 
 		Slot.Element.~ElementType();
-		Slot.bAllocated = false;
-		Slot.HashNextId = INDEX_NONE;
+		Slot.HashNextId = FSlot::FreeMarker;
 		Slot.NextFreeIndex = FirstFreeIndex;
 		FirstFreeIndex = Index;
 		--NumElements;
@@ -577,7 +590,7 @@ public:
 	protected:
 		void SkipFreeSlots()
 		{
-			while (Index < Set->Slots.Num() && !Set->Slots[Index].bAllocated)
+			while (Index < Set->Slots.Num() && !Set->Slots[Index].IsAllocated())
 			{
 				++Index;
 			}
@@ -646,9 +659,8 @@ private:
 		}
 		FSlot& Slot = Slots[Index];
 		new (&Slot.Element) ElementType(MoveTemp(NewElement));
-		Slot.bAllocated = true;
+		Slot.HashNextId = INDEX_NONE;
 		Slot.KeyHash = KeyHash;
-		Slot.NextFreeIndex = INDEX_NONE;
 		++NumElements;
 
 		if (Hash.Num() < DesiredHashSize(NumElements))
@@ -690,7 +702,7 @@ private:
 		Hash.Init(INDEX_NONE, NumElements > 0 ? DesiredHashSize(NumElements) : 0);
 		for (int32 Index = 0; Index < Slots.Num(); ++Index)
 		{
-			if (Slots[Index].bAllocated)
+			if (Slots[Index].IsAllocated())
 			{
 				LinkIntoBucket(Index);
 			}
@@ -703,7 +715,7 @@ private:
 		FirstFreeIndex = INDEX_NONE;
 		for (int32 Index = Slots.Num() - 1; Index >= 0; --Index)
 		{
-			if (!Slots[Index].bAllocated)
+			if (!Slots[Index].IsAllocated())
 			{
 				Slots[Index].NextFreeIndex = FirstFreeIndex;
 				FirstFreeIndex = Index;
