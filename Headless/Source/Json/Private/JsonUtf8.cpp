@@ -46,42 +46,69 @@ namespace UE::Json::Private
 
 	bool ConvertToUtf8(FStringView Text, TArray<UTF8CHAR>& OutUtf8, FString& OutErrorMessage)
 	{
-		// Three bytes per UTF-16 unit is the worst case (a surrogate pair takes four bytes for two units);
-		// writing through a pointer keeps multi-megabyte replies cheap in unoptimised builds.
+		// Measured first, so a multi-megabyte reply takes exactly the memory it needs; writing through
+		// a pointer keeps it cheap in unoptimised builds.
 		const TCHAR* Units = Text.GetData();
 		const int32 Len = Text.Len();
 		OutUtf8.Empty();
-		if (Len > MAX_int32 / 3)
+		int64 Size = 0;
+		for (int32 Index = 0; Index < Len; ++Index)
+		{
+			const uint32 Unit = uint32(Units[Index]);
+			if (Unit < 0x80)
+			{
+				Size += 1;
+			}
+			else if (Unit < 0x800)
+			{
+				Size += 2;
+			}
+			else if (IsHighSurrogate(Unit) && Index + 1 < Len && IsLowSurrogate(uint32(Units[Index + 1])))
+			{
+				Size += 4;
+				++Index;
+			}
+			else if (IsHighSurrogate(Unit) || IsLowSurrogate(Unit))
+			{
+				// Substituting U+FFFD would hand the caller text it never sent; refusing is the honest answer.
+				OutErrorMessage = FString::Printf(TEXT("Unpaired surrogate U+%04X at character %d."), Unit, Index);
+				return false;
+			}
+			else
+			{
+				Size += 3;
+			}
+		}
+		if (Size > MAX_int32)
 		{
 			OutErrorMessage = TEXT("The text is too long to read as JSON.");
 			return false;
 		}
-		OutUtf8.AddUninitialized(Len * 3);
-		UTF8CHAR* const Begin = OutUtf8.GetData();
-		UTF8CHAR* Out = Begin;
+
+		OutUtf8.AddUninitialized(int32(Size));
+		UTF8CHAR* Out = OutUtf8.GetData();
 		for (int32 Index = 0; Index < Len; ++Index)
 		{
 			uint32 CodePoint = uint32(Units[Index]);
-			if (IsHighSurrogate(CodePoint) && Index + 1 < Len && IsLowSurrogate(uint32(Units[Index + 1])))
+			if (IsHighSurrogate(CodePoint))
 			{
+				// Paired: the measuring pass refused any other case.
 				CodePoint = 0x10000 + ((CodePoint - 0xD800) << 10) + (uint32(Units[Index + 1]) - 0xDC00);
 				++Index;
 			}
-			else if (IsHighSurrogate(CodePoint) || IsLowSurrogate(CodePoint))
-			{
-				// Substituting U+FFFD would hand the caller text it never sent; refusing is the honest answer.
-				OutErrorMessage = FString::Printf(TEXT("Unpaired surrogate U+%04X at character %d."), CodePoint, Index);
-				OutUtf8.Empty();
-				return false;
-			}
 			Out = WriteUtf8(Out, CodePoint);
 		}
-		OutUtf8.SetNum(int32(Out - Begin));
+		check(Out == OutUtf8.GetData() + Size);
 		return true;
 	}
 
 	FString Utf8ToString(const std::string& Utf8)
 	{
+		if (Utf8.empty())
+		{
+			// An empty FString holds no buffer; neither should an empty string read from a document.
+			return FString();
+		}
 		TArray<TCHAR> Chars;
 		Chars.Reserve(int32(Utf8.size()) + 1);
 		const uint8* Bytes = reinterpret_cast<const uint8*>(Utf8.data());
