@@ -58,6 +58,10 @@ namespace
 		EXPECT_EQ(Completion->Response->GetContentLength(), uint64(strlen(NonAsciiJson)));
 		EXPECT_TRUE(Completion->Response->GetAllHeaders().Contains(FString(TEXT("X-Echo: yes"))));
 		EXPECT_EQ(Request->GetResponse(), Completion->Response);
+		// Both sides answer the outcome through their shared base, as in the engine.
+		const IHttpBase& ResponseBase = *Completion->Response;
+		EXPECT_EQ(ResponseBase.GetStatus(), EHttpRequestStatus::Succeeded);
+		EXPECT_EQ(ResponseBase.GetFailureReason(), EHttpFailureReason::None);
 	}
 
 	TEST_F(FHttpRequestTest, ClientErrorRepliesCompleteConnectedWithTheirCodeAndBody)
@@ -242,7 +246,7 @@ namespace
 		EXPECT_EQ(Request->GetFailureReason(), EHttpFailureReason::Cancelled);
 	}
 
-	TEST_F(FHttpRequestTest, UnusableUrlsFailAtTheNextTickWithoutReachingAServer)
+	TEST_F(FHttpRequestTest, UnusableUrlsFailInsideProcessRequestWithoutReachingAServer)
 	{
 		const std::string Urls[] = {"", "ftp://127.0.0.1/stash", "http://", "127.0.0.1/no-scheme", "http://bad host/"};
 		for (const std::string& Url : Urls)
@@ -250,14 +254,25 @@ namespace
 			FHttpRequestRef Request = MakeRequest(TEXT("GET"), Url);
 			const TSharedRef<FCompletionRecord> Completion = RecordCompletion(Request);
 			EXPECT_FALSE(Request->ProcessRequest()) << Url;
-			EXPECT_EQ(Completion->Count, 0) << Url;
-
-			TickHttp();
 			EXPECT_EQ(Completion->Count, 1) << Url;
 			EXPECT_FALSE(Completion->bConnectedSuccessfully) << Url;
 			EXPECT_EQ(Request->GetStatus(), EHttpRequestStatus::Failed) << Url;
 			EXPECT_EQ(Request->GetFailureReason(), EHttpFailureReason::Other) << Url;
+
+			TickHttp();
+			EXPECT_EQ(Completion->Count, 1) << Url;
 		}
+	}
+
+	TEST(FHttpResponseCodesTest, OnlyOkToPartialContentCountAsOk)
+	{
+		EXPECT_FALSE(EHttpResponseCodes::IsOk(EHttpResponseCodes::SwitchProtocol));
+		EXPECT_TRUE(EHttpResponseCodes::IsOk(EHttpResponseCodes::Ok));
+		EXPECT_TRUE(EHttpResponseCodes::IsOk(EHttpResponseCodes::NoContent));
+		EXPECT_TRUE(EHttpResponseCodes::IsOk(EHttpResponseCodes::PartialContent));
+		EXPECT_FALSE(EHttpResponseCodes::IsOk(207));
+		EXPECT_FALSE(EHttpResponseCodes::IsOk(226));
+		EXPECT_FALSE(EHttpResponseCodes::IsOk(EHttpResponseCodes::Ambiguous));
 	}
 
 	TEST_F(FHttpRequestTest, MalformedUtf8InAReplyDecodesAsReplacementCharacters)

@@ -124,20 +124,22 @@ bool FHeadlessHttpRequest::ProcessRequest()
 		return false;
 	}
 
-	FHttpManager& HttpManager = FHttpModule::Get().GetHttpManager();
 	BeginProcessing();
-	Manager = &HttpManager;
 	TransportRequestId = ++LastTransportRequestId;
 	ScheduledFailure.Reset();
-	HttpManager.AddRequest(SharedThis(this));
 
+	// As the engine does, a request that cannot start never reaches the manager: it completes, as
+	// failed, before ProcessRequest returns.
 	if (!UE::Http::Private::IsSupportedUrl(URL))
 	{
 		UE_LOG(LogHttp, Warning, TEXT("ProcessRequest failed: '%s' is not an http or https URL"), *URL);
-		ScheduleFailure(EHttpFailureReason::Other);
+		Finish(EHttpFailureReason::Other, nullptr);
 		return false;
 	}
 
+	FHttpManager& HttpManager = FHttpModule::Get().GetHttpManager();
+	Manager = &HttpManager;
+	HttpManager.AddRequest(SharedThis(this));
 	Transport = HttpManager.GetActiveTransport().ToSharedPtr();
 	Transport->StartRequest(MakeTransportRequest());
 	return true;

@@ -55,3 +55,14 @@ FString FHeadlessHttpResponse::GetContentAsString() const
 	// The payload is not null-terminated, and may hold anything the server sent.
 	return FString(Content.Num(), reinterpret_cast<const UTF8CHAR*>(Content.GetData()));
 }
+
+EHttpRequestStatus::Type FHeadlessHttpResponse::GetStatus() const
+{
+	// A response exists only for a request that got a reply.
+	return EHttpRequestStatus::Succeeded;
+}
+
+EHttpFailureReason FHeadlessHttpResponse::GetFailureReason() const
+{
+	return EHttpFailureReason::None;
+}

@@ -18,6 +18,8 @@ public:
 	virtual FString GetContentType() const override;
 	virtual uint64 GetContentLength() const override;
 	virtual const TArray<uint8>& GetContent() const override;
+	virtual EHttpRequestStatus::Type GetStatus() const override;
+	virtual EHttpFailureReason GetFailureReason() const override;
 	virtual int32 GetResponseCode() const override;
 	virtual FString GetContentAsString() const override;
 

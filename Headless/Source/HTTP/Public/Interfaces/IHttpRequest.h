@@ -7,69 +7,6 @@
 #include "Misc/Optional.h"
 #include "Templates/SharedPointer.h"
 
-namespace EHttpRequestStatus
-{
-	enum Type
-	{
-		/** Created, not processed yet. */
-		NotStarted,
-		/** Handed to the module; the completion has not run yet. */
-		Processing,
-		/** Finished without a reply: see the failure reason. */
-		Failed,
-		/** A reply arrived, whatever its response code. */
-		Succeeded
-	};
-
-	inline const TCHAR* ToString(const EHttpRequestStatus::Type EnumVal)
-	{
-		switch (EnumVal)
-		{
-		case NotStarted:
-			return TEXT("NotStarted");
-		case Processing:
-			return TEXT("Processing");
-		case Failed:
-			return TEXT("Failed");
-		case Succeeded:
-			return TEXT("Succeeded");
-		}
-		return TEXT("");
-	}
-
-	inline bool IsFinished(const EHttpRequestStatus::Type Status)
-	{
-		return Status == Failed || Status == Succeeded;
-	}
-}
-
-enum class EHttpFailureReason : uint8
-{
-	None,
-	ConnectionError,
-	Cancelled,
-	TimedOut,
-	Other
-};
-
-inline const TCHAR* LexToString(const EHttpFailureReason Reason)
-{
-	switch (Reason)
-	{
-	case EHttpFailureReason::None:
-		return TEXT("None");
-	case EHttpFailureReason::ConnectionError:
-		return TEXT("ConnectionError");
-	case EHttpFailureReason::Cancelled:
-		return TEXT("Cancelled");
-	case EHttpFailureReason::TimedOut:
-		return TEXT("TimedOut");
-	case EHttpFailureReason::Other:
-		return TEXT("Other");
-	}
-	return TEXT("");
-}
-
 /** Runs once per processed request, on the game thread; the response is null unless a reply arrived. */
 DECLARE_DELEGATE_ThreeParams(FHttpRequestCompleteDelegate, FHttpRequestPtr /*Request*/, FHttpResponsePtr /*Response*/, bool /*bConnectedSuccessfully*/);
 
@@ -104,7 +41,10 @@ public:
 	/** The timeout in force: the request's own, else the module's default; 0 means none. */
 	virtual float GetTimeoutOrDefault() const = 0;
 
-	/** Starts the request; false when it cannot start (it still completes, as failed, at the next tick). */
+	/**
+	 * Starts the request. False when it cannot start (an empty or malformed URL): it has then already
+	 * completed, as failed, inside this call, on the calling thread.
+	 */
 	virtual bool ProcessRequest() = 0;
 
 	virtual FHttpRequestCompleteDelegate& OnProcessRequestComplete() = 0;
@@ -112,8 +52,6 @@ public:
 	/** Completes a request in progress as cancelled, at the next tick of the HTTP manager. */
 	virtual void CancelRequest() = 0;
 
-	virtual EHttpRequestStatus::Type GetStatus() const = 0;
-	virtual EHttpFailureReason GetFailureReason() const = 0;
 	virtual const FHttpResponsePtr GetResponse() const = 0;
 
 	/** Called by the HTTP manager on the game thread while the request is in progress. */

@@ -50,10 +50,10 @@ namespace EHttpResponseCodes
 		VersionNotSup = 505
 	};
 
-	/** Any 2xx code. */
+	/** Ok to PartialContent; the other 2xx codes are not taken for plain success. */
 	inline bool IsOk(const int32 StatusCode)
 	{
-		return StatusCode >= 200 && StatusCode < 300;
+		return StatusCode >= Ok && StatusCode <= PartialContent;
 	}
 }
 
