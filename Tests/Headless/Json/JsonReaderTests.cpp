@@ -89,8 +89,8 @@ TEST(JsonReader, KeepsTheFirstPositionAndTheLastValueOfARepeatedKey)
 
 TEST(JsonReader, RoundTripsPrettyAndCondensedTextUnchanged)
 {
-	const FString Pretty = TEXT("{\r\n\t\"name\": \"caf\x00E9 \\\"\x4E2D\\\" \\u0001\",\r\n\t\"to\":\r\n\t{\r\n\t\t\"x\": 2,\r\n\t\t\"y\": -0.10000000000000001\r\n\t},")
-		TEXT("\r\n\t\"tags\": [\r\n\t\t\"a\"\r\n\t],\r\n\t\"counts\": [ 1, 2 ],\r\n\t\"empty\":\r\n\t{\r\n\t},\r\n\t\"ok\": false,\r\n\t\"none\": null\r\n}");
+	const FString Pretty = TEXT("{\n\t\"name\": \"caf\x00E9 \\\"\x4E2D\\\" \\u0001\",\n\t\"to\":\n\t{\n\t\t\"x\": 2,\n\t\t\"y\": -0.10000000000000001\n\t},")
+		TEXT("\n\t\"tags\": [\n\t\t\"a\"\n\t],\n\t\"counts\": [ 1, 2 ],\n\t\"empty\":\n\t{\n\t},\n\t\"ok\": false,\n\t\"none\": null\n}");
 	const TSharedPtr<FJsonObject> FromPretty = ParseObject(Pretty);
 	ASSERT_TRUE(FromPretty.IsValid());
 	EXPECT_EQ(PrettyText(FromPretty.ToSharedRef()), ToUtf8(Pretty));

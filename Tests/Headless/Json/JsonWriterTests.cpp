@@ -1,4 +1,5 @@
 #include "JsonTestText.h"
+#include "Serialization/MemoryWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -33,13 +34,13 @@ namespace
 	}
 }
 
-TEST(JsonPrettyWriter, WritesMembersOnTabbedCrLfLinesAfterOneSpaceWithNothingAfterTheClosingBrace)
+TEST(JsonPrettyWriter, WritesMembersOnTabbedLinesEndedAsThePlatformEndsThemWithNothingAfterTheClosingBrace)
 {
 	TSharedRef<FJsonObject> SignIn = MakeShared<FJsonObject>();
 	SignIn->SetStringField(TEXT("provider"), TEXT("anonymous"));
 	SignIn->SetStringField(TEXT("ticket"), TEXT("demo_account"));
 
-	EXPECT_EQ(PrettyText(SignIn), "{\r\n\t\"provider\": \"anonymous\",\r\n\t\"ticket\": \"demo_account\"\r\n}");
+	EXPECT_EQ(PrettyText(SignIn), "{\n\t\"provider\": \"anonymous\",\n\t\"ticket\": \"demo_account\"\n}");
 }
 
 TEST(JsonPrettyWriter, OpensANestedObjectOnItsOwnLineAtTheKeysIndent)
@@ -49,12 +50,12 @@ TEST(JsonPrettyWriter, OpensANestedObjectOnItsOwnLineAtTheKeysIndent)
 	Move->SetObjectField(TEXT("to"), MakePoint(2, 0));
 
 	EXPECT_EQ(PrettyText(Move),
-		"{\r\n\t\"item\": \"sword\",\r\n\t\"to\":\r\n\t{\r\n\t\t\"x\": 2,\r\n\t\t\"y\": 0\r\n\t}\r\n}");
+		"{\n\t\"item\": \"sword\",\n\t\"to\":\n\t{\n\t\t\"x\": 2,\n\t\t\"y\": 0\n\t}\n}");
 
 	TSharedRef<FJsonObject> Outer = MakeShared<FJsonObject>();
 	Outer->SetObjectField(TEXT("move"), Move);
 	EXPECT_EQ(PrettyText(Outer),
-		"{\r\n\t\"move\":\r\n\t{\r\n\t\t\"item\": \"sword\",\r\n\t\t\"to\":\r\n\t\t{\r\n\t\t\t\"x\": 2,\r\n\t\t\t\"y\": 0\r\n\t\t}\r\n\t}\r\n}");
+		"{\n\t\"move\":\n\t{\n\t\t\"item\": \"sword\",\n\t\t\"to\":\n\t\t{\n\t\t\t\"x\": 2,\n\t\t\t\"y\": 0\n\t\t}\n\t}\n}");
 }
 
 TEST(JsonPrettyWriter, EscapesQuotesBackslashesAndControlCharactersAndPassesEverythingElseThrough)
@@ -63,7 +64,7 @@ TEST(JsonPrettyWriter, EscapesQuotesBackslashesAndControlCharactersAndPassesEver
 	Object->SetStringField(TEXT("text"), TEXT("say \"hi\"\\ now\nthen\r\t\b\f\x0001\x001F caf\x00E9 \x4E2D/</"));
 
 	EXPECT_EQ(PrettyText(Object),
-		"{\r\n\t\"text\": \"say \\\"hi\\\"\\\\ now\\nthen\\r\\t\\b\\f\\u0001\\u001f caf\xC3\xA9 \xE4\xB8\xAD/</\"\r\n}");
+		"{\n\t\"text\": \"say \\\"hi\\\"\\\\ now\\nthen\\r\\t\\b\\f\\u0001\\u001f caf\xC3\xA9 \xE4\xB8\xAD/</\"\n}");
 }
 
 TEST(JsonPrettyWriter, EscapesKeysLikeValuesAndKeepsSurrogatePairsIntact)
@@ -71,7 +72,7 @@ TEST(JsonPrettyWriter, EscapesKeysLikeValuesAndKeepsSurrogatePairsIntact)
 	TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
 	Object->SetStringField(TEXT("a\"b"), TEXT("\xD83D\xDE00"));
 
-	EXPECT_EQ(PrettyText(Object), "{\r\n\t\"a\\\"b\": \"\xF0\x9F\x98\x80\"\r\n}");
+	EXPECT_EQ(PrettyText(Object), "{\n\t\"a\\\"b\": \"\xF0\x9F\x98\x80\"\n}");
 }
 
 TEST(JsonPrettyWriter, WritesNumbersWithSeventeenSignificantDigits)
@@ -86,8 +87,8 @@ TEST(JsonPrettyWriter, WritesNumbersWithSeventeenSignificantDigits)
 	Object->SetNumberField(TEXT("huge"), 1e21);
 
 	EXPECT_EQ(PrettyText(Object),
-		"{\r\n\t\"count\": 24,\r\n\t\"delta\": -1,\r\n\t\"zero\": 0,\r\n\t\"tenth\": 0.10000000000000001,"
-		"\r\n\t\"half\": -2.5,\r\n\t\"big\": 9007199254740992,\r\n\t\"huge\": 1e+21\r\n}");
+		"{\n\t\"count\": 24,\n\t\"delta\": -1,\n\t\"zero\": 0,\n\t\"tenth\": 0.10000000000000001,"
+		"\n\t\"half\": -2.5,\n\t\"big\": 9007199254740992,\n\t\"huge\": 1e+21\n}");
 }
 
 TEST(JsonPrettyWriter, WritesBooleansAndNullsAfterOneSpace)
@@ -98,16 +99,16 @@ TEST(JsonPrettyWriter, WritesBooleansAndNullsAfterOneSpace)
 	Object->SetField(TEXT("none"), MakeShared<FJsonValueNull>());
 	Object->SetObjectField(TEXT("missing"), nullptr);
 
-	EXPECT_EQ(PrettyText(Object), "{\r\n\t\"yes\": true,\r\n\t\"no\": false,\r\n\t\"none\": null,\r\n\t\"missing\": null\r\n}");
+	EXPECT_EQ(PrettyText(Object), "{\n\t\"yes\": true,\n\t\"no\": false,\n\t\"none\": null,\n\t\"missing\": null\n}");
 }
 
 TEST(JsonPrettyWriter, WritesEmptyObjectsWithALineBreakBetweenTheBraces)
 {
-	EXPECT_EQ(PrettyText(MakeShared<FJsonObject>()), "{\r\n}");
+	EXPECT_EQ(PrettyText(MakeShared<FJsonObject>()), "{\n}");
 
 	TSharedRef<FJsonObject> Outer = MakeShared<FJsonObject>();
 	Outer->SetObjectField(TEXT("empty"), MakeShared<FJsonObject>());
-	EXPECT_EQ(PrettyText(Outer), "{\r\n\t\"empty\":\r\n\t{\r\n\t}\r\n}");
+	EXPECT_EQ(PrettyText(Outer), "{\n\t\"empty\":\n\t{\n\t}\n}");
 }
 
 TEST(JsonPrettyWriter, PutsStringAndObjectElementsOnLinesOfTheirOwnAndShortValuesOnTheBracketsLine)
@@ -122,20 +123,20 @@ TEST(JsonPrettyWriter, PutsStringAndObjectElementsOnLinesOfTheirOwnAndShortValue
 
 	EXPECT_EQ(PrettyText(Object),
 		"{"
-		"\r\n\t\"names\": [\r\n\t\t\"a\",\r\n\t\t\"b\"\r\n\t],"
-		"\r\n\t\"counts\": [ 1, -2 ],"
-		"\r\n\t\"flags\": [ true, null ],"
-		"\r\n\t\"empty\": [],"
-		"\r\n\t\"points\": [\r\n\t\t{\r\n\t\t\t\"x\": 1,\r\n\t\t\t\"y\": 2\r\n\t\t},\r\n\t\t{\r\n\t\t\t\"x\": 3,\r\n\t\t\t\"y\": 4\r\n\t\t}\r\n\t],"
-		"\r\n\t\"grid\": [\r\n\t\t[ 1, 2 ],\r\n\t\t[\r\n\t\t\t\"c\"\r\n\t\t]\r\n\t]"
-		"\r\n}");
+		"\n\t\"names\": [\n\t\t\"a\",\n\t\t\"b\"\n\t],"
+		"\n\t\"counts\": [ 1, -2 ],"
+		"\n\t\"flags\": [ true, null ],"
+		"\n\t\"empty\": [],"
+		"\n\t\"points\": [\n\t\t{\n\t\t\t\"x\": 1,\n\t\t\t\"y\": 2\n\t\t},\n\t\t{\n\t\t\t\"x\": 3,\n\t\t\t\"y\": 4\n\t\t}\n\t],"
+		"\n\t\"grid\": [\n\t\t[ 1, 2 ],\n\t\t[\n\t\t\t\"c\"\n\t\t]\n\t]"
+		"\n}");
 }
 
 TEST(JsonPrettyWriter, WritesARootArrayAndABareRootValueWithoutLeadingWhitespace)
 {
 	FString Text;
 	EXPECT_TRUE(FJsonSerializer::Serialize(MakeStrings({ TEXT("a"), TEXT("b") }), TJsonWriterFactory<>::Create(&Text)));
-	EXPECT_EQ(ToUtf8(Text), "[\r\n\t\"a\",\r\n\t\"b\"\r\n]");
+	EXPECT_EQ(ToUtf8(Text), "[\n\t\"a\",\n\t\"b\"\n]");
 
 	FString Bare;
 	EXPECT_TRUE(FJsonSerializer::Serialize(TSharedPtr<FJsonValue>(MakeShared<FJsonValueNumber>(7)), FString(), TJsonWriterFactory<>::Create(&Bare)));
@@ -186,6 +187,29 @@ TEST(JsonWriter, IndentsFromTheInitialIndentLevel)
 	Writer->WriteObjectStart();
 	Writer->WriteValue(TEXT("a"), 1);
 	Writer->WriteObjectEnd();
+	EXPECT_TRUE(Writer->Close());
 
-	EXPECT_EQ(ToUtf8(Text), "{\r\n\t\t\"a\": 1\r\n\t}");
+	EXPECT_EQ(ToUtf8(Text), "{\n\t\t\"a\": 1\n\t}");
+}
+
+TEST(JsonWriter, AStringReceivesTheTextWhenTheWriterClosesAndAnArchiveAsItIsWritten)
+{
+	TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("name"), TEXT("caf\x00E9"));
+	Object->SetObjectField(TEXT("to"), MakePoint(2, 0));
+
+	FString Text = TEXT("old");
+	TSharedRef<TJsonWriter<>> StringWriter = TJsonWriterFactory<>::Create(&Text);
+	StringWriter->WriteObjectStart();
+	EXPECT_EQ(ToUtf8(Text), "old");
+	StringWriter->WriteObjectEnd();
+	EXPECT_TRUE(StringWriter->Close());
+	EXPECT_EQ(ToUtf8(Text), "{\n}");
+
+	TArray<uint8> Bytes;
+	FMemoryWriter Archive(Bytes);
+	EXPECT_TRUE(FJsonSerializer::Serialize(Object, TJsonWriterFactory<>::Create(&Archive)));
+	const FString FromArchive(Bytes.Num() / int32(sizeof(TCHAR)), reinterpret_cast<const TCHAR*>(Bytes.GetData()));
+	EXPECT_EQ(ToUtf8(FromArchive), PrettyText(Object));
+	EXPECT_EQ(ToUtf8(FromArchive), "{\n\t\"name\": \"caf\xC3\xA9\",\n\t\"to\":\n\t{\n\t\t\"x\": 2,\n\t\t\"y\": 0\n\t}\n}");
 }

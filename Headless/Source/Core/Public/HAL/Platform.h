@@ -26,11 +26,22 @@ typedef std::uintptr_t UPTRINT;
 typedef std::intptr_t PTRINT;
 
 #define PLATFORM_LINUX 1
+#define PLATFORM_WINDOWS 0
+#define PLATFORM_MAC 0
 #define PLATFORM_TCHAR_IS_CHAR16 1
 #define PLATFORM_LITTLE_ENDIAN 1
 
 #define TEXT_PASTE(x) u ## x
 #define TEXT(x) TEXT_PASTE(x)
+
+// The platform's own line break, as text files and pretty printers write it.
+#if PLATFORM_WINDOWS
+#define LINE_TERMINATOR TEXT("\r\n")
+#define LINE_TERMINATOR_ANSI "\r\n"
+#else
+#define LINE_TERMINATOR TEXT("\n")
+#define LINE_TERMINATOR_ANSI "\n"
+#endif
 
 #define FORCEINLINE inline __attribute__((always_inline))
 #define FORCENOINLINE __attribute__((noinline))

@@ -6,15 +6,15 @@
 template <class CharType>
 struct TCondensedJsonPrintPolicy : public TJsonPrintPolicy<CharType>
 {
-	static inline void WriteLineTerminator(FString* Stream)
+	static inline void WriteLineTerminator(FArchive* Stream)
 	{
 	}
 
-	static inline void WriteTabs(FString* Stream, int32 Count)
+	static inline void WriteTabs(FArchive* Stream, int32 Count)
 	{
 	}
 
-	static inline void WriteSpace(FString* Stream)
+	static inline void WriteSpace(FArchive* Stream)
 	{
 	}
 };

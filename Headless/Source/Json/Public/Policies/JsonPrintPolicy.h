@@ -1,8 +1,10 @@
-// How a JSON writer puts characters into its output. The engine's policies write to an FArchive;
-// the headless writers only ever write to a string, so the stream is the string itself.
+// How a JSON writer puts characters into its output archive: each character as the code unit of
+// CharType, in the archive's byte order.
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Containers/StringView.h"
+#include "Serialization/Archive.h"
 
 #include <type_traits>
 
@@ -11,23 +13,23 @@ struct TJsonPrintPolicy
 {
 	static_assert(std::is_same_v<CharType, TCHAR>, "The headless JSON writers produce TCHAR text only.");
 
-	static inline void WriteChar(FString* Stream, CharType Char)
+	static inline void WriteChar(FArchive* Stream, CharType Char)
 	{
-		Stream->AppendChar(Char);
+		Stream->Serialize(&Char, sizeof(CharType));
 	}
 
-	static inline void WriteString(FString* Stream, const FString& String)
+	static inline void WriteString(FArchive* Stream, FStringView String)
 	{
-		Stream->Append(String);
+		Stream->Serialize(const_cast<TCHAR*>(String.GetData()), String.Len() * sizeof(CharType));
 	}
 
-	static inline void WriteFloat(FString* Stream, float Value)
+	static inline void WriteFloat(FArchive* Stream, float Value)
 	{
 		WriteString(Stream, FString::Printf(TEXT("%g"), Value));
 	}
 
 	/** 17 significant digits: enough to read back the same double and to keep large integers exact. */
-	static inline void WriteDouble(FString* Stream, double Value)
+	static inline void WriteDouble(FArchive* Stream, double Value)
 	{
 		WriteString(Stream, FString::Printf(TEXT("%.17g"), Value));
 	}

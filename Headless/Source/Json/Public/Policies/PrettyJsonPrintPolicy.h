@@ -1,4 +1,4 @@
-// Human-readable output: CR LF line breaks and one tab per nesting level, on every platform.
+// Human-readable output: the platform's line terminator and one tab per nesting level.
 #pragma once
 
 #include "Policies/JsonPrintPolicy.h"
@@ -6,13 +6,12 @@
 template <class CharType>
 struct TPrettyJsonPrintPolicy : public TJsonPrintPolicy<CharType>
 {
-	static inline void WriteLineTerminator(FString* Stream)
+	static inline void WriteLineTerminator(FArchive* Stream)
 	{
-		TJsonPrintPolicy<CharType>::WriteChar(Stream, CharType('\r'));
-		TJsonPrintPolicy<CharType>::WriteChar(Stream, CharType('\n'));
+		TJsonPrintPolicy<CharType>::WriteString(Stream, LINE_TERMINATOR);
 	}
 
-	static inline void WriteTabs(FString* Stream, int32 Count)
+	static inline void WriteTabs(FArchive* Stream, int32 Count)
 	{
 		for (int32 Index = 0; Index < Count; ++Index)
 		{
@@ -20,7 +19,7 @@ struct TPrettyJsonPrintPolicy : public TJsonPrintPolicy<CharType>
 		}
 	}
 
-	static inline void WriteSpace(FString* Stream)
+	static inline void WriteSpace(FArchive* Stream)
 	{
 		TJsonPrintPolicy<CharType>::WriteChar(Stream, CharType(' '));
 	}

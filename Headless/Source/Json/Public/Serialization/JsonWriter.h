@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Serialization/Archive.h"
 #include "Serialization/JsonTypes.h"
 #include "Policies/PrettyJsonPrintPolicy.h"
 
@@ -217,7 +218,7 @@ public:
 protected:
 	friend class TJsonWriterFactory<CharType, PrintPolicy>;
 
-	TJsonWriter(FString* const InStream, int32 InitialIndentLevel)
+	TJsonWriter(FArchive* const InStream, int32 InitialIndentLevel)
 		: Stream(InStream)
 		, IndentLevel(InitialIndentLevel)
 	{
@@ -339,64 +340,126 @@ protected:
 	/**
 	 * Escapes only what JSON requires: the quote, the backslash and control characters. The slash and
 	 * everything from U+0020 up, non-ASCII included, pass through unchanged. Unlike the engine, an
-	 * embedded NUL is escaped rather than ending the string.
+	 * embedded NUL is escaped rather than ending the string. The escaped text goes out in one piece.
 	 */
 	void WriteStringValue(const FString& String)
 	{
 		static constexpr TCHAR HexDigits[] = TEXT("0123456789abcdef");
-		PrintPolicy::WriteChar(Stream, CharType('"'));
 		const TCHAR* Chars = *String;
 		const int32 Len = String.Len();
+		FString Escaped;
+		Escaped.Reserve(Len + 2);
+		Escaped.AppendChar(TEXT('"'));
 		for (int32 Index = 0; Index < Len; ++Index)
 		{
 			const TCHAR Char = Chars[Index];
 			switch (Char)
 			{
-			case TCHAR('\\'): WriteEscape(CharType('\\')); break;
-			case TCHAR('"'): WriteEscape(CharType('"')); break;
-			case TCHAR('\n'): WriteEscape(CharType('n')); break;
-			case TCHAR('\r'): WriteEscape(CharType('r')); break;
-			case TCHAR('\t'): WriteEscape(CharType('t')); break;
-			case TCHAR('\b'): WriteEscape(CharType('b')); break;
-			case TCHAR('\f'): WriteEscape(CharType('f')); break;
+			case TCHAR('\\'): AppendEscape(Escaped, TEXT('\\')); break;
+			case TCHAR('"'): AppendEscape(Escaped, TEXT('"')); break;
+			case TCHAR('\n'): AppendEscape(Escaped, TEXT('n')); break;
+			case TCHAR('\r'): AppendEscape(Escaped, TEXT('r')); break;
+			case TCHAR('\t'): AppendEscape(Escaped, TEXT('t')); break;
+			case TCHAR('\b'): AppendEscape(Escaped, TEXT('b')); break;
+			case TCHAR('\f'): AppendEscape(Escaped, TEXT('f')); break;
 			default:
 				if (Char >= TCHAR(0x20))
 				{
-					PrintPolicy::WriteChar(Stream, CharType(Char));
+					Escaped.AppendChar(Char);
 				}
 				else
 				{
-					WriteEscape(CharType('u'));
+					AppendEscape(Escaped, TEXT('u'));
 					for (int32 Shift = 12; Shift >= 0; Shift -= 4)
 					{
-						PrintPolicy::WriteChar(Stream, CharType(HexDigits[(Char >> Shift) & 0xF]));
+						Escaped.AppendChar(HexDigits[(Char >> Shift) & 0xF]);
 					}
 				}
 				break;
 			}
 		}
-		PrintPolicy::WriteChar(Stream, CharType('"'));
+		Escaped.AppendChar(TEXT('"'));
+		PrintPolicy::WriteString(Stream, Escaped);
 	}
 
-	void WriteEscape(CharType Letter)
+	static void AppendEscape(FString& Escaped, TCHAR Letter)
 	{
-		PrintPolicy::WriteChar(Stream, CharType('\\'));
-		PrintPolicy::WriteChar(Stream, Letter);
+		Escaped.AppendChar(TEXT('\\'));
+		Escaped.AppendChar(Letter);
 	}
 
-	FString* const Stream;
+	FArchive* const Stream;
 	TArray<EJson> Stack;
 	EJsonToken PreviousTokenWritten = EJsonToken::None;
 	int32 IndentLevel;
+};
+
+namespace UE::Json::Private
+{
+	/** The archive of a string writer: TCHARs appended to a string as they come. */
+	class FStringWriterArchive final : public FArchive
+	{
+	public:
+		FStringWriterArchive()
+		{
+			SetIsSaving(true);
+		}
+
+		virtual void Serialize(void* Data, int64 Num) override
+		{
+			Text.Append(static_cast<const TCHAR*>(Data), static_cast<int32>(Num / int64(sizeof(TCHAR))));
+		}
+
+		FString Text;
+	};
+}
+
+/** A writer whose output is a string: the text is handed to the string when the writer is closed. */
+template <class PrintPolicy = TPrettyJsonPrintPolicy<TCHAR>>
+class TJsonStringWriter : public TJsonWriter<TCHAR, PrintPolicy>
+{
+public:
+	static TSharedRef<TJsonStringWriter> Create(FString* const InStream, int32 InitialIndent = 0)
+	{
+		return TSharedRef<TJsonStringWriter>(new TJsonStringWriter(InStream, InitialIndent));
+	}
+
+	virtual ~TJsonStringWriter() override
+	{
+		delete this->Stream;
+	}
+
+	virtual bool Close() override
+	{
+		*OutString = static_cast<UE::Json::Private::FStringWriterArchive*>(this->Stream)->Text;
+		return TJsonWriter<TCHAR, PrintPolicy>::Close();
+	}
+
+protected:
+	TJsonStringWriter(FString* const InOutString, int32 InitialIndent)
+		: TJsonWriter<TCHAR, PrintPolicy>(new UE::Json::Private::FStringWriterArchive(), InitialIndent)
+		, OutString(InOutString)
+	{
+		check(OutString != nullptr);
+	}
+
+private:
+	FString* OutString;
 };
 
 template <class CharType = TCHAR, class PrintPolicy = TPrettyJsonPrintPolicy<CharType>>
 class TJsonWriterFactory
 {
 public:
-	/** The writer appends to *Stream as it goes; the string must outlive the writer. */
-	static TSharedRef<TJsonWriter<CharType, PrintPolicy>> Create(FString* const Stream, int32 InitialIndentLevel = 0)
+	/** Writes into the archive as it goes; the archive must outlive the writer. */
+	static TSharedRef<TJsonWriter<CharType, PrintPolicy>> Create(FArchive* const Stream, int32 InitialIndentLevel = 0)
 	{
 		return TSharedRef<TJsonWriter<CharType, PrintPolicy>>(new TJsonWriter<CharType, PrintPolicy>(Stream, InitialIndentLevel));
+	}
+
+	/** Writes into *Stream, which receives the whole text when the writer is closed. */
+	static TSharedRef<TJsonWriter<CharType, PrintPolicy>> Create(FString* const Stream, int32 InitialIndentLevel = 0)
+	{
+		return TJsonStringWriter<PrintPolicy>::Create(Stream, InitialIndentLevel);
 	}
 };
