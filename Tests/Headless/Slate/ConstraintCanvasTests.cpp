@@ -36,6 +36,25 @@ TEST(ConstraintCanvasTest, APointAnchorPlacesTheAlignmentPointAtTheAnchorPlusThe
 		FSlateRect(10.0f, 20.0f, 110.0f, 70.0f));
 }
 
+TEST(ConstraintCanvasTest, DesiredSizeCoversEachVisibleChildBySizeAndByItsOffsetFromADockedEdge)
+{
+	const TSharedRef<SFixedSize> Hidden = Fixed(1.0, 1.0);
+	Hidden->SetVisibility(EVisibility::Collapsed);
+	const TSharedRef<SConstraintCanvas> Canvas = SNew(SConstraintCanvas)
+		// Docked to the top-left corner: its offset from the corner counts, 30 + 100 by 20 + 50.
+		+ SConstraintCanvas::Slot().Offset(FMargin(30.0f, 20.0f, 100.0f, 50.0f))[Fixed(1.0, 1.0)]
+		// Centred: the offset only moves it about the middle, so its size alone counts, here its own.
+		+ SConstraintCanvas::Slot().Anchors(FAnchors(0.5f, 0.5f)).Offset(FMargin(500.0f, 500.0f, 1.0f, 1.0f)).AutoSize(true)[Fixed(120.0, 40.0)]
+		// Docked to the right and bottom edges: the offsets count by their size, 10 + 90 high.
+		+ SConstraintCanvas::Slot().Anchors(FAnchors(1.0f, 1.0f)).Offset(FMargin(-10.0f, -90.0f, 20.0f, 10.0f))[Fixed(1.0, 1.0)]
+		// Stretched across: the offsets are insets, and only the right one is taken as a width.
+		+ SConstraintCanvas::Slot().Anchors(FAnchors(0.0f, 0.0f, 1.0f, 0.0f)).Offset(FMargin(200.0f, 0.0f, 5.0f, 5.0f))[Fixed(1.0, 1.0)]
+		+ SConstraintCanvas::Slot().Offset(FMargin(0.0f, 0.0f, 900.0f, 900.0f))[Hidden];
+	Canvas->SlatePrepass(1.0f);
+
+	EXPECT_EQ(Canvas->GetDesiredSize(), FVector2D(130.0, 100.0));
+}
+
 TEST(ConstraintCanvasTest, AutoSizeUsesTheChildsDesiredSizeInsteadOfTheOffsetSize)
 {
 	// Pinned to the bottom-right corner, 10 in from each edge.

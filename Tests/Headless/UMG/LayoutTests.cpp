@@ -102,18 +102,20 @@ TEST_F(LayoutTest, AFillSlotTakesTheHeightTheAutoSlotsLeave)
 	EXPECT_EQ(ScreenRect(Body), FSlateRect(0.0f, 100.0f, 800.0f, 600.0f));
 }
 
-TEST_F(LayoutTest, ACanvasAsksForNoSpaceSoASizeBoxMustGiveItOne)
+TEST_F(LayoutTest, ACanvasAsksForTheSpaceItsChildrenTakeUntilASizeBoxOverridesIt)
 {
 	USizeBox* Sizer = Make<USizeBox>();
 	UCanvasPanel* Canvas = Make<UCanvasPanel>();
 	Sizer->AddChild(Canvas);
-	Canvas->AddChildToCanvas(Make<UImage>())->SetSize(FVector2D(300.0, 300.0));
+	UCanvasPanelSlot* ImageSlot = Canvas->AddChildToCanvas(Make<UImage>());
+	ImageSlot->SetPosition(FVector2D(20.0, 10.0));
+	ImageSlot->SetSize(FVector2D(300.0, 200.0));
 	UBorder* Root = TopLeftFrame(Make<UBorder>());
 	Root->SetContent(Sizer);
 	Show(Root);
 
-	EXPECT_EQ(Canvas->GetCachedWidget()->GetDesiredSize(), FVector2D(0.0, 0.0));
-	EXPECT_EQ(ScreenRect(Canvas), FSlateRect(0.0f, 0.0f, 0.0f, 0.0f));
+	EXPECT_EQ(Canvas->GetCachedWidget()->GetDesiredSize(), FVector2D(320.0, 210.0));
+	EXPECT_EQ(ScreenRect(Canvas), FSlateRect(0.0f, 0.0f, 320.0f, 210.0f));
 
 	MakeSized(Sizer, 640.0f, 512.0f);
 	Viewport->Tick();

@@ -48,9 +48,35 @@ void SConstraintCanvas::ClearChildren()
 	Children.Empty();
 }
 
+namespace
+{
+	/** Both anchors on the same edge of the axis, so the offset on that side moves the child away from it. */
+	bool IsDockedToAnEdge(double AnchorMinimum, double AnchorMaximum)
+	{
+		return AnchorMinimum == AnchorMaximum && (AnchorMinimum == 0.0 || AnchorMinimum == 1.0);
+	}
+}
+
 FVector2D SConstraintCanvas::ComputeDesiredSize(float LayoutScaleMultiplier) const
 {
-	return FVector2D(0.0, 0.0);
+	FVector2D DesiredSize(0.0, 0.0);
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		const FSlot& Slot = Children[Index];
+		const SWidget& Widget = Slot.GetWidget().Get();
+		if (Widget.GetVisibility() == EVisibility::Collapsed)
+		{
+			continue;
+		}
+		const FMargin Offset = Slot.GetOffset();
+		const FAnchors Anchors = Slot.GetAnchors();
+		const FVector2D Size = Slot.GetAutoSize() ? Widget.GetDesiredSize() : FVector2D(Offset.Right, Offset.Bottom);
+		const double Left = IsDockedToAnEdge(Anchors.Minimum.X, Anchors.Maximum.X) ? FMath::Abs(Offset.Left) : 0.0;
+		const double Top = IsDockedToAnEdge(Anchors.Minimum.Y, Anchors.Maximum.Y) ? FMath::Abs(Offset.Top) : 0.0;
+		DesiredSize.X = FMath::Max(DesiredSize.X, Size.X + Left);
+		DesiredSize.Y = FMath::Max(DesiredSize.Y, Size.Y + Top);
+	}
+	return DesiredSize;
 }
 
 void SConstraintCanvas::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const

@@ -169,8 +169,9 @@ public:
 	}
 
 protected:
-	// Zero: a canvas places its children where they are told and claims no space for them, so a
-	// parent that sizes itself to its content must be given the canvas's size some other way.
+	// Big enough for every child that is not collapsed: an auto-sized child by its desired size,
+	// any other by the width and height of its offsets, plus its left or top offset on an axis
+	// where it is docked to an edge (both anchors at 0, or both at 1).
 	SLATE_API FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 	// In z-order, so that painting in arrange order draws higher z-orders on top.
 	SLATE_API void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
