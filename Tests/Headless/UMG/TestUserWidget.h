@@ -12,11 +12,18 @@ class UTestUserWidget : public UUserWidget
 	GENERATED_BODY()
 
 public:
+	int32 InitializedCount = 0;
 	int32 RebuildCount = 0;
 	int32 ConstructCount = 0;
 	int32 DestructCount = 0;
 
 protected:
+	virtual void NativeOnInitialized() override
+	{
+		Super::NativeOnInitialized();
+		++InitializedCount;
+	}
+
 	virtual TSharedRef<SWidget> RebuildWidget() override
 	{
 		++RebuildCount;

@@ -29,6 +29,15 @@ TEST_F(UserWidgetLifecycleTest, NativeConstructRunsOnceEachTimeTheWidgetIsBuiltF
 	EXPECT_EQ(Screen->ConstructCount, 2);
 }
 
+TEST_F(UserWidgetLifecycleTest, InitializeGivesATreeOnceAndTellsNoWidgetWithoutAPlayerContext)
+{
+	EXPECT_NE(Screen->WidgetTree, nullptr);
+	EXPECT_FALSE(Screen->Initialize());
+	Screen->AddToViewport();
+	Viewport->Tick();
+	EXPECT_EQ(Screen->InitializedCount, 0);
+}
+
 TEST_F(UserWidgetLifecycleTest, AUserWidgetNestedInAnotherIsConstructedWithItsParent)
 {
 	UCanvasPanel* Canvas = Make<UCanvasPanel>();

@@ -38,7 +38,8 @@ bool UUserWidget::Initialize()
 	{
 		WidgetTree = NewObject<UWidgetTree>(this, TEXT("WidgetTree"), RF_Transient);
 	}
-	NativeOnInitialized();
+	// The engine tells only a widget that has a player context, one made for a player or inside a
+	// world's game. The headless engine has no players, so none of its widgets is told.
 	return true;
 }
 

@@ -1,4 +1,4 @@
-#include "Components/TextLayoutWidget.h"
+#include "Components/TextWidgetTypes.h"
 
 UTextLayoutWidget::UTextLayoutWidget(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)

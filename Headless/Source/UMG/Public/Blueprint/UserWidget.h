@@ -50,6 +50,7 @@ protected:
 	virtual TSharedRef<SWidget> RebuildWidget() override;
 	virtual void OnWidgetRebuilt() override;
 
+	/** Once, from Initialize, for a widget that has a player context; headless, no widget has one. */
 	virtual void NativeOnInitialized();
 	virtual void NativeConstruct();
 	virtual void NativeDestruct();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Components/TextLayoutWidget.h"
+#include "Components/TextWidgetTypes.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Styling/SlateColor.h"
 

@@ -5,7 +5,7 @@
 #include "Framework/Text/TextLayout.h"
 #include "Layout/Margin.h"
 
-#include "TextLayoutWidget.generated.h"
+#include "TextWidgetTypes.generated.h"
 
 /** The base of widgets that lay out text: justification, wrapping, margin and line height. */
 UCLASS(Abstract)
