@@ -152,10 +152,20 @@ namespace
 	}
 	BENCHMARK(BM_DrawStack_WithoutTable)->Unit(benchmark::kMillisecond);
 
+	// The panel's body printing: pretty, every line ended by CR LF.
+	struct FBodyPrintPolicy : public TPrettyJsonPrintPolicy<TCHAR>
+	{
+		static inline void WriteLineTerminator(FArchive* Stream)
+		{
+			WriteChar(Stream, TEXT('\r'));
+			WriteChar(Stream, TEXT('\n'));
+		}
+	};
+
 	FString Serialise(const TSharedRef<FJsonObject>& Body)
 	{
 		FString Text;
-		const TSharedRef<TJsonWriter<TCHAR, TPrettyJsonPrintPolicy<TCHAR>>> Writer = TJsonWriterFactory<TCHAR, TPrettyJsonPrintPolicy<TCHAR>>::Create(&Text);
+		const TSharedRef<TJsonWriter<TCHAR, FBodyPrintPolicy>> Writer = TJsonWriterFactory<TCHAR, FBodyPrintPolicy>::Create(&Text);
 		FJsonSerializer::Serialize(Body, Writer);
 		return Text;
 	}

@@ -15,6 +15,7 @@
 #include "Engine/Texture2D.h"
 #include "GenericPlatform/GenericPlatformStricmp.h"
 #include "Internationalization/Regex.h"
+#include "Policies/PrettyJsonPrintPolicy.h"
 #include "QuorvelClient.h"
 #include "QuorvelLog.h"
 #include "QuorvelSettings.h"
@@ -35,11 +36,24 @@ namespace QuorvelStashPanel
 
 	const TCHAR* const IconFieldNames[] = { TEXT("itemicon"), TEXT("icon"), TEXT("thumbnail"), TEXT("image") };
 
-	/** The exact text the platform receives: the engine's pretty printer, members in the order they were added. */
+	/**
+	 * The engine's pretty printing, except that every line ends in CR LF: the platform reads the same
+	 * bytes from every client, while the engine's own line terminator follows the game's platform.
+	 */
+	struct FBodyPrintPolicy : public TPrettyJsonPrintPolicy<TCHAR>
+	{
+		static inline void WriteLineTerminator(FArchive* Stream)
+		{
+			WriteChar(Stream, TEXT('\r'));
+			WriteChar(Stream, TEXT('\n'));
+		}
+	};
+
+	/** The exact text the platform receives: members in the order they were added. */
 	FString ToBodyText(const TSharedRef<FJsonObject>& Body)
 	{
 		FString Text;
-		const TSharedRef<TJsonWriter<TCHAR, TPrettyJsonPrintPolicy<TCHAR>>> Writer = TJsonWriterFactory<TCHAR, TPrettyJsonPrintPolicy<TCHAR>>::Create(&Text);
+		const TSharedRef<TJsonWriter<TCHAR, FBodyPrintPolicy>> Writer = TJsonWriterFactory<TCHAR, FBodyPrintPolicy>::Create(&Text);
 		FJsonSerializer::Serialize(Body, Writer);
 		return Text;
 	}
@@ -556,7 +570,13 @@ UTexture2D* UQuorvelStashPanel::FindIcon(const FString& ItemId) const
 	{
 		return nullptr;
 	}
-	const uint8* Row = ItemTable->GetRowMap().FindRef(FName(*ItemId));
+	// Looked up without adding to the name table: an id that no name was ever made of names no row.
+	const FName RowName(*ItemId, FNAME_Find);
+	if (RowName.IsNone() && !ItemId.IsEmpty() && ItemId != TEXT("None"))
+	{
+		return nullptr;
+	}
+	const uint8* Row = ItemTable->GetRowMap().FindRef(RowName);
 	if (!Row)
 	{
 		return nullptr;
