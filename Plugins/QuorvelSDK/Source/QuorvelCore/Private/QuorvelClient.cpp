@@ -1,5 +1,7 @@
 #include "QuorvelClient.h"
 
+#include "QuorvelClientLifetime.h"
+#include "Containers/Map.h"
 #include "Containers/Ticker.h"
 #include "Dom/JsonObject.h"
 #include "HttpModule.h"
@@ -30,6 +32,8 @@ namespace UE::Quorvel::Private
 		float RetryBaseDelaySeconds = 0.0f;
 		float RetryMaxDelaySeconds = 0.0f;
 		int32 RetriesDone = 0;
+		/** Set while ProcessRequest runs: an attempt that ends inside it must not finish inside Send. */
+		bool bStartingAttempt = false;
 	};
 
 	using FPendingRequestRef = TSharedRef<FPendingRequest, ESPMode::ThreadSafe>;
@@ -45,6 +49,44 @@ namespace UE::Quorvel::Private
 	};
 
 	void StartAttempt(const FPendingRequestRef& Pending);
+
+	/**
+	 * Work waiting on the core ticker for one request (a retry, or an outcome held back to the next
+	 * frame), by an id of its own, so that the module can take all of it back when it shuts down.
+	 */
+	TMap<uint64, FTSTicker::FDelegateHandle> ScheduledWork;
+	uint64 LastScheduledId = 0;
+	/** Cleared at module shutdown: nothing is sent or completed after that. */
+	bool bClientRunning = true;
+
+	void Schedule(const float DelaySeconds, TFunction<void()> Work)
+	{
+		const uint64 Id = ++LastScheduledId;
+		const FTSTicker::FDelegateHandle Handle = FTSTicker::GetCoreTicker().AddTicker(TEXT("QuorvelClient"), DelaySeconds, [Id, Work = MoveTemp(Work)](float)
+		{
+			ScheduledWork.Remove(Id);
+			Work();
+			return false;
+		});
+		ScheduledWork.Add(Id, Handle);
+	}
+
+	void StartClient()
+	{
+		bClientRunning = true;
+	}
+
+	void ShutDownClient()
+	{
+		bClientRunning = false;
+		// The tickers' functions hold the requests and their completions; removing them releases both
+		// unsent and uncalled: at shutdown nobody is left to act on an outcome.
+		for (const TPair<uint64, FTSTicker::FDelegateHandle>& Entry : ScheduledWork)
+		{
+			FTSTicker::RemoveTicker(Entry.Value);
+		}
+		ScheduledWork.Empty();
+	}
 
 	TSharedPtr<FJsonObject> ParseObject(const FString& Text)
 	{
@@ -119,18 +161,13 @@ namespace UE::Quorvel::Private
 		Outcome.Error.HttpStatus = Status;
 		Outcome.Error.RequestId = Response.GetHeader(TEXT("X-Request-Id"));
 
-		if (EHttpResponseCodes::IsOk(Status))
+		// Any 2xx means the platform acted, whatever the body: reporting a failure then would hide an
+		// operation that took place (a consume whose stack the game never hears of).
+		if (Status >= 200 && Status <= 299)
 		{
-			if (Object.IsValid())
-			{
-				Outcome.bSuccess = true;
-				Outcome.Reply = MoveTemp(Object);
-				Outcome.Error = FQuorvelError();
-			}
-			else
-			{
-				SetClientError(Outcome.Error, TEXT("invalid_reply"), TEXT("The platform's reply was not a JSON object."), false);
-			}
+			Outcome.bSuccess = true;
+			Outcome.Reply = Object.IsValid() ? MoveTemp(Object) : MakeShared<FJsonObject>();
+			Outcome.Error = FQuorvelError();
 			return Outcome;
 		}
 
@@ -177,30 +214,50 @@ namespace UE::Quorvel::Private
 		}
 	}
 
-	void OnAttemptComplete(const FPendingRequestRef& Pending, const FHttpRequestPtr& Request, const FHttpResponsePtr& Response, const bool bConnectedSuccessfully)
+	/** Retries what a retry can help while retries remain; otherwise the outcome is final. */
+	void Settle(const FPendingRequestRef& Pending, FAttemptOutcome&& Outcome)
 	{
-		FAttemptOutcome Outcome = bConnectedSuccessfully && Response.IsValid()
-			? ReadReply(*Response)
-			: ReadNoReply(Request.IsValid() ? Request->GetFailureReason() : EHttpFailureReason::Other);
-
 		if (!Outcome.bSuccess && Outcome.Error.bRetryable && Pending->RetriesDone < Pending->MaxRetries)
 		{
 			const float Delay = RetryDelay(*Pending, Outcome.RetryAfterSeconds);
 			if (Delay >= 0.0f)
 			{
 				++Pending->RetriesDone;
-				UE_LOG(LogQuorvel, Verbose, TEXT("%s %s failed with %s (HTTP %d); retry %d of %d in %.2f s"),
+				UE_LOG(LogQuorvelClient, Verbose, TEXT("%s %s failed with %s (HTTP %d); retry %d of %d in %.2f s"),
 					*Pending->Verb, *Pending->Path, *Outcome.Error.Code, Outcome.Error.HttpStatus, Pending->RetriesDone, Pending->MaxRetries, Delay);
 				// Scheduled on the core ticker rather than waited for, so the game thread keeps running.
-				FTSTicker::GetCoreTicker().AddTicker(TEXT("QuorvelClientRetry"), Delay, [Pending](float)
+				Schedule(Delay, [Pending]()
 				{
 					StartAttempt(Pending);
-					return false;
 				});
 				return;
 			}
 		}
 		Finish(Pending, MoveTemp(Outcome));
+	}
+
+	void OnAttemptComplete(const FPendingRequestRef& Pending, const FHttpRequestPtr& Request, const FHttpResponsePtr& Response, const bool bConnectedSuccessfully)
+	{
+		if (!bClientRunning)
+		{
+			// The module has shut down while this attempt was out: its outcome can no longer matter.
+			return;
+		}
+		FAttemptOutcome Outcome = bConnectedSuccessfully && Response.IsValid()
+			? ReadReply(*Response)
+			: ReadNoReply(Request.IsValid() ? Request->GetFailureReason() : EHttpFailureReason::Other);
+
+		if (Pending->bStartingAttempt)
+		{
+			// The HTTP module ends a request that cannot start inside ProcessRequest; Send's caller
+			// still hears of it only later, on a frame of its own.
+			Schedule(0.0f, [Pending, Outcome = MoveTemp(Outcome)]() mutable
+			{
+				Settle(Pending, MoveTemp(Outcome));
+			});
+			return;
+		}
+		Settle(Pending, MoveTemp(Outcome));
 	}
 
 	void StartAttempt(const FPendingRequestRef& Pending)
@@ -228,8 +285,9 @@ namespace UE::Quorvel::Private
 		{
 			OnAttemptComplete(Pending, CompletedRequest, Response, bConnectedSuccessfully);
 		});
-		// A request that cannot start still completes, as failed, at the next tick of the HTTP manager.
+		Pending->bStartingAttempt = true;
 		Request->ProcessRequest();
+		Pending->bStartingAttempt = false;
 	}
 }
 
@@ -238,6 +296,10 @@ void FQuorvelClient::Send(const FString& Method, const FString& Path, const FStr
 {
 	using namespace UE::Quorvel::Private;
 
+	if (!bClientRunning)
+	{
+		return;
+	}
 	const UQuorvelSettings& Settings = UQuorvelSettings::Get();
 	const FPendingRequestRef Pending = MakeShared<FPendingRequest, ESPMode::ThreadSafe>();
 	Pending->Verb = Method;

@@ -1,3 +1,18 @@
 #include "Modules/ModuleManager.h"
+#include "QuorvelClientLifetime.h"
 
-IMPLEMENT_MODULE(FDefaultModuleImpl, QuorvelCore);
+class FQuorvelCoreModule : public IModuleInterface
+{
+public:
+	virtual void StartupModule() override
+	{
+		UE::Quorvel::Private::StartClient();
+	}
+
+	virtual void ShutdownModule() override
+	{
+		UE::Quorvel::Private::ShutDownClient();
+	}
+};
+
+IMPLEMENT_MODULE(FQuorvelCoreModule, QuorvelCore);

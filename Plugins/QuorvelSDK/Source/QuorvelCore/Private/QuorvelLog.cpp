@@ -1,3 +1,4 @@
 #include "QuorvelLog.h"
 
 DEFINE_LOG_CATEGORY(LogQuorvel);
+DEFINE_LOG_CATEGORY(LogQuorvelClient);

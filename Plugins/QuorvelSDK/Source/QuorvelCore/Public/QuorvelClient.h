@@ -20,7 +20,13 @@ public:
 
 	/**
 	 * Sends Body (JSON text) to the platform's base URL plus Path. An empty AccessToken sends no
-	 * token; an empty IdempotencyKey sends no key. Returns at once; Completion runs exactly once.
+	 * token; an empty IdempotencyKey sends no key; every retry carries the same key.
+	 *
+	 * Returns at once. Completion runs exactly once, on the game thread, on a later frame: never
+	 * inside Send, not even for a request the HTTP module refuses to start. Any 2xx reply is a
+	 * success, with the reply's JSON object, or an empty object when the body holds none. Once the
+	 * module has shut down nothing runs any more: retries still waiting are dropped unsent, with
+	 * their completions.
 	 */
 	static void Send(const FString& Method, const FString& Path, const FString& Body, const FString& AccessToken,
 		const FString& IdempotencyKey, FCompletion Completion);
