@@ -6,5 +6,5 @@ quorvel_add_module(QuorvelCore DIR "${QuorvelSDKSource}/QuorvelCore"
 	DEPS Core CoreUObject DeveloperSettings Json
 	PRIVATE_DEPS HTTP)
 quorvel_add_module(QuorvelUI DIR "${QuorvelSDKSource}/QuorvelUI"
-	DEPS Core CoreUObject Engine UMG QuorvelCore
-	PRIVATE_DEPS Json SlateCore)
+	DEPS Core CoreUObject Engine Slate SlateCore UMG QuorvelCore
+	PRIVATE_DEPS Json)

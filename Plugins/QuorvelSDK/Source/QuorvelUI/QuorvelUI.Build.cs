@@ -11,6 +11,8 @@ public class QuorvelUI : ModuleRules
 			"Core",
 			"CoreUObject",
 			"Engine",
+			"Slate",
+			"SlateCore",
 			"UMG",
 			"QuorvelCore",
 		});
@@ -18,8 +20,6 @@ public class QuorvelUI : ModuleRules
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
 			"Json",
-			"Slate",
-			"SlateCore",
 		});
 	}
 }
