@@ -174,6 +174,11 @@ namespace
 		ASSERT_EQ(Heard.Num(), 1);
 		EXPECT_EQ(Utf8(Heard[0]), "event OnWithdrawn i-0 0 4 sent 4");
 		EXPECT_TRUE(Request(4).URL.EndsWith(SignInPath));
+
+		// A consume accepted without a body has released the stack all the same: the game is told.
+		Answer(2, 204, TEXT(""));
+		ASSERT_EQ(Listener->Heard.Num(), 2);
+		EXPECT_EQ(Utf8(Listener->Heard[1]), "instance i-5 Rope 5");
 	}
 
 	TEST_F(FStashPanelOperations, AFailedOperationReportsOnThePanelAndNeitherNotifiesNorReloads)
