@@ -2,6 +2,7 @@
 
 #include <arpa/inet.h>
 #include <chrono>
+#include <thread>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -41,6 +42,14 @@ void FLoopbackHttpServer::Start()
 	{
 		Server.listen_after_bind();
 	});
+	// httplib's stop() does nothing to a server whose accept loop has not begun, and the loop would
+	// then run for ever: return only once it runs, so that the destructor can always end it.
+	const auto Deadline = std::chrono::steady_clock::now() + MaxBlockedHandlerTime;
+	while (!Server.is_running() && std::chrono::steady_clock::now() < Deadline)
+	{
+		std::this_thread::yield();
+	}
+	EXPECT_TRUE(Server.is_running());
 }
 
 std::string FLoopbackHttpServer::Url(const std::string& Path) const
