@@ -51,14 +51,14 @@ TEST_F(HeadlessEngineTest, StartingMakesTheDirectoryTheProjectAndStartsTheEngine
 	EXPECT_EQ(FHeadlessViewport::GetCurrent(), &Engine.GetViewport());
 }
 
-TEST_F(HeadlessEngineTest, ATickConstructsWidgetsAddedToTheViewportOnceAndTheRendererShowsThem)
+TEST_F(HeadlessEngineTest, WidgetsAddedToTheViewportAreConstructedOnceAtOnceAndTheRendererShowsThemAfterATick)
 {
 	FHeadlessEngine Engine(Options());
 	UEngineLoopTestWidget* Widget = Cast<UEngineLoopTestWidget>(
 		UUserWidget::CreateWidgetInstance(GetTransientPackage(), UEngineLoopTestWidget::StaticClass(), NAME_None));
 	ASSERT_NE(Widget, nullptr);
 	Widget->AddToViewport();
-	EXPECT_EQ(Widget->Constructions, 0);
+	EXPECT_EQ(Widget->Constructions, 1);
 
 	Engine.Tick(0.016f);
 	Engine.Tick(0.016f);

@@ -72,7 +72,7 @@ TEST_F(CachedGeometryTest, RenderScaleAndDpiScaleCompose)
 	EXPECT_EQ(FVector2f(Geometry.AbsoluteToLocal(FVector2f(16.0f, 16.0f))), FVector2f(16.0f, 16.0f));
 }
 
-TEST_F(CachedGeometryTest, AWidgetHasNoSlateWidgetUntilTheViewportBuildsIt)
+TEST_F(CachedGeometryTest, TheViewportBuildsSlateWidgetsAtOnceAndATickLaysThemOut)
 {
 	UCanvasPanel* Canvas = FillWithCanvas(Make<UBorder>(), Make<UCanvasPanel>());
 	Screen->WidgetTree->RootWidget = Canvas->GetParent();
@@ -80,7 +80,8 @@ TEST_F(CachedGeometryTest, AWidgetHasNoSlateWidgetUntilTheViewportBuildsIt)
 
 	Screen->AddToViewport();
 	EXPECT_TRUE(Screen->IsInViewport());
-	EXPECT_FALSE(Canvas->GetCachedWidget().IsValid());
+	ASSERT_TRUE(Canvas->GetCachedWidget().IsValid());
+	EXPECT_EQ(Canvas->GetCachedGeometry().GetLocalSize(), FVector2D(0.0, 0.0));
 
 	Viewport->Tick();
 	EXPECT_TRUE(Canvas->GetCachedWidget().IsValid());

@@ -4,6 +4,7 @@
 #include "Components/Image.h"
 #include "Engine/Texture2D.h"
 #include "UObject/WeakObjectPtrTemplates.h"
+#include "UObject/Package.h"
 #include "ViewportTestFixture.h"
 
 using UserWidgetLifecycleTest = ViewportTest;
@@ -11,7 +12,8 @@ using UserWidgetLifecycleTest = ViewportTest;
 TEST_F(UserWidgetLifecycleTest, NativeConstructRunsOnceEachTimeTheWidgetIsBuiltForTheScreen)
 {
 	Screen->AddToViewport();
-	EXPECT_EQ(Screen->ConstructCount, 0);
+	EXPECT_EQ(Screen->RebuildCount, 1);
+	EXPECT_EQ(Screen->ConstructCount, 1);
 
 	Viewport->Tick();
 	Viewport->Tick();
@@ -24,9 +26,18 @@ TEST_F(UserWidgetLifecycleTest, NativeConstructRunsOnceEachTimeTheWidgetIsBuiltF
 	EXPECT_EQ(Screen->ConstructCount, 1);
 
 	Screen->AddToViewport();
-	Viewport->Tick();
 	EXPECT_EQ(Screen->RebuildCount, 2);
 	EXPECT_EQ(Screen->ConstructCount, 2);
+}
+
+TEST_F(UserWidgetLifecycleTest, AWidgetMadeWithoutCreateWidgetGetsItsTreeOnItsFirstBuild)
+{
+	UTestUserWidget* Bare = NewObject<UTestUserWidget>(GetTransientPackage());
+	EXPECT_EQ(Bare->WidgetTree, nullptr);
+	Bare->AddToViewport();
+	EXPECT_NE(Bare->WidgetTree, nullptr);
+	EXPECT_EQ(Bare->ConstructCount, 1);
+	Bare->RemoveFromParent();
 }
 
 TEST_F(UserWidgetLifecycleTest, InitializeGivesATreeOnceAndTellsNoWidgetWithoutAPlayerContext)

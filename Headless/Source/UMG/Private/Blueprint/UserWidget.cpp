@@ -88,6 +88,11 @@ bool UUserWidget::IsDesignTime() const
 
 TSharedRef<SWidget> UUserWidget::RebuildWidget()
 {
+	// A widget made without CreateWidget gets its tree here, on its first build.
+	if (!bInitialized)
+	{
+		Initialize();
+	}
 	if (UWidget* RootWidget = GetRootWidget())
 	{
 		return RootWidget->TakeWidget();

@@ -170,14 +170,8 @@ TSharedRef<SWidget> UWidget::TakeWidget()
 
 TSharedPtr<SWidget> UWidget::GetCachedWidget() const
 {
-	// A Slate widget that no window has laid out yet is not on screen: built by TakeWidget
-	// outside the viewport, or added to a panel since the last frame.
-	TSharedPtr<SWidget> SafeWidget = MyWidget.Pin();
-	if (SafeWidget && !SafeWidget->GetPrepassLayoutScaleMultiplier().IsSet())
-	{
-		return nullptr;
-	}
-	return SafeWidget;
+	// Whether or not a window has laid it out yet: until then its geometry is the default one.
+	return MyWidget.Pin();
 }
 
 const FGeometry& UWidget::GetCachedGeometry() const

@@ -49,6 +49,8 @@ void FHeadlessViewport::AddWidget(UUserWidget* Widget, int32 ZOrder)
 		Widget->AddToRoot();
 		Entry.bRootedByViewport = true;
 	}
+	// Built and constructed at once, as the engine's viewport does; laid out at the next tick.
+	BuildPendingWidgets();
 }
 
 void FHeadlessViewport::RemoveWidget(UUserWidget* Widget)
@@ -106,12 +108,14 @@ void FHeadlessViewport::BuildPendingWidgets()
 	// By index: NativeConstruct may add or remove viewport widgets.
 	for (int32 Index = 0; Index < Entries.Num(); ++Index)
 	{
-		if (Entries[Index].SlateWidget)
+		if (Entries[Index].SlateWidget || Entries[Index].bBuilding)
 		{
 			continue;
 		}
 		UUserWidget* Widget = Entries[Index].Widget;
 		const int32 ZOrder = Entries[Index].ZOrder;
+		// NativeConstruct may add a widget to the screen, which builds what is pending: not this one again.
+		Entries[Index].bBuilding = true;
 		const TSharedRef<SWidget> SlateWidget = Widget->TakeWidget();
 		const int32 EntryIndex = Entries.IndexOfByPredicate([Widget](const FEntry& Entry) { return Entry.Widget == Widget; });
 		if (EntryIndex == INDEX_NONE)
@@ -120,6 +124,7 @@ void FHeadlessViewport::BuildPendingWidgets()
 			Widget->ReleaseSlateResources(true);
 			continue;
 		}
+		Entries[EntryIndex].bBuilding = false;
 		Entries[EntryIndex].SlateWidget = SlateWidget;
 		Layer->AddSlot().Anchors(FAnchors(0.0f, 0.0f, 1.0f, 1.0f)).Offset(FMargin(0.0f)).Alignment(FVector2D(0.0, 0.0)).ZOrder(float(ZOrder))[SlateWidget];
 	}

@@ -2,9 +2,10 @@
 // user widgets added with UUserWidget::AddToViewport. Only the engine loop, the renderer and
 // tests use it; plugin code reaches it through AddToViewport and RemoveFromParent alone.
 //
-// Engine loop: create one viewport and call Tick once per frame. A tick builds the widgets added
-// since the last one (TakeWidget, so RebuildWidget and then NativeConstruct run), lays the window
-// out and caches every widget's geometry, so hit tests after the tick see this frame's layout.
+// Engine loop: create one viewport and call Tick once per frame. A widget added to it is built at
+// once (TakeWidget, so RebuildWidget and then NativeConstruct run inside AddToViewport, as in the
+// engine); a tick lays the window out and caches every widget's geometry, so hit tests after the
+// tick see this frame's layout.
 //
 // Renderer: call Paint to receive the frame's draw elements. Coordinates are window pixels (the
 // window's top-left is 0,0; the DPI scale is already applied). Draw by ascending layer, keeping
@@ -38,14 +39,14 @@ public:
 	/** The viewport AddToViewport uses, or null when none exists. */
 	static FHeadlessViewport* GetCurrent();
 
-	/** Holds the widget (keeping it from garbage collection) until it is removed; it is built at the next tick. */
+	/** Holds the widget (keeping it from garbage collection) until it is removed, and builds it now. */
 	void AddWidget(UUserWidget* Widget, int32 ZOrder);
 	/** Takes the widget off the screen and releases its Slate widgets (NativeDestruct runs if it was constructed). */
 	void RemoveWidget(UUserWidget* Widget);
 	bool HasWidget(const UUserWidget* Widget) const;
 	TArray<UUserWidget*> GetWidgets() const;
 
-	/** One frame: build new widgets, lay out, cache geometry. */
+	/** One frame: lay out, cache geometry. */
 	void Tick(float DeltaSeconds = 0.0f);
 
 	/** Lays out and paints the window into OutDrawElements, replacing what it held. */
@@ -69,6 +70,7 @@ private:
 		int32 ZOrder = 0;
 		TSharedPtr<SWidget> SlateWidget;
 		bool bRootedByViewport = false;
+		bool bBuilding = false;
 	};
 
 	void BuildPendingWidgets();
