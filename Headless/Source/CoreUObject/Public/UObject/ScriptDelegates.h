@@ -177,7 +177,7 @@ public:
 		{
 			if (InvocationList[Index].IsBoundToObjectEvenIfUnreachable(Object))
 			{
-				InvocationList.RemoveAt(Index);
+				InvocationList.RemoveAtSwap(Index);
 			}
 		}
 		CompactInvocationList();
@@ -247,7 +247,7 @@ protected:
 		{
 			if (InvocationList[Index].IsCompactable())
 			{
-				InvocationList.RemoveAt(Index);
+				InvocationList.RemoveAtSwap(Index);
 			}
 		}
 	}
@@ -259,7 +259,7 @@ protected:
 		{
 			if (Predicate(InvocationList[Index]))
 			{
-				InvocationList.RemoveAt(Index);
+				InvocationList.RemoveAtSwap(Index);
 				return;
 			}
 		}
