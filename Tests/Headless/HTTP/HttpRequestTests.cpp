@@ -248,7 +248,7 @@ namespace
 
 	TEST_F(FHttpRequestTest, UnusableUrlsFailInsideProcessRequestWithoutReachingAServer)
 	{
-		const std::string Urls[] = {"", "ftp://127.0.0.1/stash", "http://", "127.0.0.1/no-scheme", "http://bad host/"};
+		const std::string Urls[] = {"", "ftp://127.0.0.1/stash", "http://", "/no-host", "http://bad host/"};
 		for (const std::string& Url : Urls)
 		{
 			FHttpRequestRef Request = MakeRequest(TEXT("GET"), Url);
@@ -262,6 +262,25 @@ namespace
 			TickHttp();
 			EXPECT_EQ(Completion->Count, 1) << Url;
 		}
+	}
+
+	TEST_F(FHttpRequestTest, AUrlWithoutASchemeIsTakenForHttp)
+	{
+		Server.Routes().Get("/plain", [](const httplib::Request&, httplib::Response& Response)
+		{
+			Response.set_content("{}", "application/json");
+		});
+		Server.Start();
+
+		const std::string Url = Server.Url("/plain");
+		FHttpRequestRef Request = MakeRequest(TEXT("GET"), Url.substr(Url.find("://") + 3));
+		const TSharedRef<FCompletionRecord> Completion = RecordCompletion(Request);
+		ASSERT_TRUE(Request->ProcessRequest());
+		ASSERT_TRUE(TickUntil([&]() { return Completion->Count > 0; }));
+
+		EXPECT_TRUE(Completion->bConnectedSuccessfully);
+		ASSERT_TRUE(Completion->Response.IsValid());
+		EXPECT_EQ(Completion->Response->GetResponseCode(), EHttpResponseCodes::Ok);
 	}
 
 	TEST(FHttpResponseCodesTest, OnlyOkToPartialContentCountAsOk)

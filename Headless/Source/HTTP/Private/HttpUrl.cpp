@@ -13,6 +13,11 @@ namespace UE::Http::Private
 		{
 			Rest = URL.RightChop(8);
 		}
+		else if (!URL.Contains(TEXT("://")))
+		{
+			// No scheme at all: curl takes it for http, as it does in the engine.
+			Rest = URL;
+		}
 		else
 		{
 			return false;
