@@ -9,6 +9,9 @@
 #   One GoogleTest executable registered with CTest. Headers in REFLECT_DIRS (default: the source
 #   directory of the call) that declare reflected types go through the header tool too, so tests
 #   can declare their own classes, structs and delegates.
+#
+# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds])
+#   A program that runs the engine automation tests inside MODULES headless, registered with CTest.
 
 set(QUORVEL_GENERATED_DIR "${CMAKE_BINARY_DIR}/Generated")
 set(QUORVEL_CMAKE_DIR "${CMAKE_CURRENT_LIST_DIR}")
