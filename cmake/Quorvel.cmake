@@ -9,8 +9,12 @@
 #   One GoogleTest executable registered with CTest. Headers in REFLECT_DIRS (default: the source
 #   directory of the call) that declare reflected types go through the header tool too, so tests
 #   can declare their own classes, structs and delegates.
+#
+# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds])
+#   A program that runs the engine automation tests inside MODULES headless, registered with CTest.
 
 set(QUORVEL_GENERATED_DIR "${CMAKE_BINARY_DIR}/Generated")
+set(QUORVEL_CMAKE_DIR "${CMAKE_CURRENT_LIST_DIR}")
 
 # Headers that need the header tool: the ones that use a reflection macro or a dynamic delegate.
 function(_quorvel_reflected_headers OutVar)
@@ -78,6 +82,43 @@ function(quorvel_add_test Name)
 	endif()
 	add_test(NAME ${Name} COMMAND ${Name} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
 	set_tests_properties(${Name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds])
+#   The engine's automation tests that live inside MODULES (in their Private/Tests/), run headless by a
+#   small program around RunHeadlessAutomationTests and registered with CTest. The program starts the
+#   engine on PROJECT (default: the repository root) with MODULES as the project's modules, in that
+#   order, and runs the tests whose full names start with FILTER (default: all). DEPS are further
+#   libraries to link. Run it by hand with --list, --filter <prefix> or --project <dir>.
+function(quorvel_add_automation_tests Name)
+	cmake_parse_arguments(Arg "" "FILTER;PROJECT;TIMEOUT" "MODULES;DEPS" ${ARGN})
+	if(NOT Arg_MODULES)
+		message(FATAL_ERROR "quorvel_add_automation_tests(${Name}): MODULES names the modules whose tests to run")
+	endif()
+	if(NOT Arg_PROJECT)
+		set(Arg_PROJECT "${CMAKE_SOURCE_DIR}")
+	endif()
+	if(NOT Arg_TIMEOUT)
+		set(Arg_TIMEOUT 300)
+	endif()
+	set(AUTOMATION_NAME "${Name}")
+	set(AUTOMATION_FILTER "${Arg_FILTER}")
+	set(AUTOMATION_PROJECT "${Arg_PROJECT}")
+	string(JOIN ", " AUTOMATION_MODULES ${Arg_MODULES})
+	set(AUTOMATION_MODULE_NAMES "")
+	foreach(Module IN LISTS Arg_MODULES)
+		list(APPEND AUTOMATION_MODULE_NAMES "FName(TEXT(\"${Module}\"))")
+	endforeach()
+	string(JOIN ", " AUTOMATION_MODULE_NAMES ${AUTOMATION_MODULE_NAMES})
+	set(Main "${CMAKE_CURRENT_BINARY_DIR}/${Name}Main.cpp")
+	configure_file("${QUORVEL_CMAKE_DIR}/AutomationTestsMain.cpp.in" "${Main}" @ONLY)
+
+	add_executable(${Name} "${Main}")
+	target_compile_definitions(${Name} PRIVATE "UE_MODULE_NAME=\"${Name}\"")
+	# The modules are linked whole: their tests register themselves as the program loads them.
+	target_link_libraries(${Name} PRIVATE Launch ${Arg_MODULES} ${Arg_DEPS})
+	add_test(NAME ${Name} COMMAND ${Name} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
+	set_tests_properties(${Name} PROPERTIES TIMEOUT ${Arg_TIMEOUT})
 endfunction()
 
 # quorvel_add_benchmark(Name SOURCES ... [DEPS ...])
