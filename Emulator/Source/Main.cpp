@@ -2,9 +2,9 @@
 //   --port N    port on 127.0.0.1 (default 8787; 0 picks a free one)
 //   --db PATH   SQLite file that keeps state between runs (default: in memory)
 //   --seed      put a few stacks into the demo player's stash
-#include "HttpServer.h"
-#include "Platform.h"
-#include "Seed.h"
+#include "Api/HttpServer.h"
+#include "Domain/Platform.h"
+#include "Domain/Seed.h"
 
 #include <charconv>
 #include <cstdio>

@@ -1,6 +1,6 @@
 // Container ensure, persistence and the demo seed.
+#include "Domain/Seed.h"
 #include "EmulatorTestServer.h"
-#include "Seed.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The demo content matches the emulator: every item it can hand out has a row and an icon.
-#include "ItemCatalog.h"
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
+#include "Domain/ItemCatalog.h"
 
 #include <gtest/gtest.h>
 

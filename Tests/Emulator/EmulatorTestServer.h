@@ -1,8 +1,8 @@
 // The emulator on 127.0.0.1 and a port the system picks, with a client that speaks its protocol.
 #pragma once
 
-#include "HttpServer.h"
-#include "Platform.h"
+#include "Api/HttpServer.h"
+#include "Domain/Platform.h"
 
 #include <httplib.h>
 

@@ -2,8 +2,8 @@
 // applies idempotency keys and turns refusals into error replies. One request at a time.
 #pragma once
 
-#include "Database.h"
-#include "Reply.h"
+#include "Api/Reply.h"
+#include "Store/Database.h"
 
 #include <mutex>
 #include <string>

@@ -1,7 +1,7 @@
 // Replies remembered per player and idempotency key, so that a retried operation is applied once.
 #pragma once
 
-#include "Reply.h"
+#include "Api/Reply.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
-#include "HttpServer.h"
+#include "Api/HttpServer.h"
 
-#include "Ids.h"
-#include "Platform.h"
-#include "Replies.h"
+#include "Api/Replies.h"
+#include "Domain/Ids.h"
+#include "Domain/Platform.h"
 
 #include <cstdio>
 #include <stdexcept>

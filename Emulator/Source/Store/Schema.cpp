@@ -1,6 +1,6 @@
-#include "Schema.h"
+#include "Store/Schema.h"
 
-#include "Database.h"
+#include "Store/Database.h"
 
 namespace quorvel::emulator
 {

@@ -1,8 +1,8 @@
-#include "Accounts.h"
+#include "Domain/Accounts.h"
 
-#include "ApiError.h"
-#include "Database.h"
-#include "Ids.h"
+#include "Api/ApiError.h"
+#include "Domain/Ids.h"
+#include "Store/Database.h"
 
 #include <chrono>
 

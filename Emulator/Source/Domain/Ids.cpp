@@ -1,4 +1,4 @@
-#include "Ids.h"
+#include "Domain/Ids.h"
 
 #include <cstdint>
 #include <random>

@@ -1,11 +1,11 @@
-#include "Inventory.h"
+#include "Domain/Inventory.h"
 
-#include "ApiError.h"
-#include "Ids.h"
-#include "ItemCatalog.h"
-#include "Placement.h"
-#include "Replies.h"
-#include "Store.h"
+#include "Api/ApiError.h"
+#include "Api/Replies.h"
+#include "Domain/Ids.h"
+#include "Domain/ItemCatalog.h"
+#include "Domain/Placement.h"
+#include "Store/Statements.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "Idempotency.h"
+#include "Domain/Idempotency.h"
 
-#include "ApiError.h"
-#include "Database.h"
+#include "Api/ApiError.h"
+#include "Store/Database.h"
 
 namespace quorvel::emulator
 {

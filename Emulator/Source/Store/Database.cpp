@@ -1,4 +1,4 @@
-#include "Database.h"
+#include "Store/Database.h"
 
 #include <sqlite3.h>
 

@@ -2,7 +2,7 @@
 // ids are unknown to every other player.
 #pragma once
 
-#include "Records.h"
+#include "Store/Records.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
-#include "Placement.h"
+#include "Domain/Placement.h"
 
-#include "ApiError.h"
+#include "Api/ApiError.h"
 
 #include <optional>
 #include <set>

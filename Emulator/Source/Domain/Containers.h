@@ -1,8 +1,8 @@
 // Containers are made on demand, one per player and kind, with the layout asked for the first time.
 #pragma once
 
-#include "Records.h"
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
+#include "Store/Records.h"
 
 #include <string>
 

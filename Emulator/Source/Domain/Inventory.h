@@ -2,7 +2,7 @@
 // completely or throws an ApiError having changed nothing.
 #pragma once
 
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
 
 #include <string>
 

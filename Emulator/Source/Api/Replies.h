@@ -1,8 +1,8 @@
 // The JSON shapes the platform answers with.
 #pragma once
 
-#include "Records.h"
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
+#include "Store/Records.h"
 
 #include <string>
 #include <vector>

@@ -2,8 +2,8 @@
 // that fits, scanning slots in order or grid rows top to bottom, each left to right.
 #pragma once
 
-#include "Records.h"
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
+#include "Store/Records.h"
 
 #include <vector>
 

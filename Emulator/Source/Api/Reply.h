@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
 
 #include <string>
 

@@ -1,12 +1,12 @@
-#include "Seed.h"
+#include "Domain/Seed.h"
 
-#include "Accounts.h"
-#include "Containers.h"
-#include "Database.h"
-#include "Ids.h"
-#include "ItemCatalog.h"
-#include "Placement.h"
-#include "Store.h"
+#include "Domain/Accounts.h"
+#include "Domain/Containers.h"
+#include "Domain/Ids.h"
+#include "Domain/ItemCatalog.h"
+#include "Domain/Placement.h"
+#include "Store/Database.h"
+#include "Store/Statements.h"
 
 #include <array>
 

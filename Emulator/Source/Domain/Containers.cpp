@@ -1,9 +1,9 @@
-#include "Containers.h"
+#include "Domain/Containers.h"
 
-#include "ApiError.h"
-#include "Ids.h"
-#include "Replies.h"
-#include "Store.h"
+#include "Api/ApiError.h"
+#include "Api/Replies.h"
+#include "Domain/Ids.h"
+#include "Store/Statements.h"
 
 namespace quorvel::emulator
 {

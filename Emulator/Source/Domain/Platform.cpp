@@ -1,12 +1,12 @@
-#include "Platform.h"
+#include "Domain/Platform.h"
 
-#include "Accounts.h"
-#include "ApiError.h"
-#include "Containers.h"
-#include "Idempotency.h"
-#include "Inventory.h"
-#include "Replies.h"
-#include "Schema.h"
+#include "Api/ApiError.h"
+#include "Api/Replies.h"
+#include "Domain/Accounts.h"
+#include "Domain/Containers.h"
+#include "Domain/Idempotency.h"
+#include "Domain/Inventory.h"
+#include "Store/Schema.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
 
-#include "ApiError.h"
+#include "Api/ApiError.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "ItemCatalog.h"
+#include "Domain/ItemCatalog.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "Replies.h"
+#include "Api/Replies.h"
 
 namespace quorvel::emulator
 {

@@ -1,7 +1,7 @@
 // Players and their sessions: sign-in hands out bearer tokens, every other request shows one.
 #pragma once
 
-#include "RequestFields.h"
+#include "Api/RequestFields.h"
 
 #include <string>
 
