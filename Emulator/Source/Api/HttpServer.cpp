@@ -13,12 +13,26 @@ namespace quorvel::emulator
 	{
 		constexpr size_t maxBodyBytes = 1 << 20;
 		constexpr const char* jsonType = "application/json";
+
+		// Each kept-alive connection holds a worker, so there are enough for a browser, a few game
+		// clients and a benchmark's clients at once; httplib's default is 8.
+		constexpr size_t workerCount = 32;
+
+		// Far more than a game session sends on one connection; the count is only there because
+		// httplib's keep-alive has one, and its default of 5 makes every client reconnect.
+		constexpr size_t keepAliveRequests = 100000;
 	}
 
 	HttpServer::HttpServer(Platform& platform, bool logRequests)
 		: platform(platform)
 	{
+		// Replies go out as a header write and a body write; without this the second waits for the
+		// client's delayed ACK, some 40 ms, on every request after a connection's first.
+		server.set_tcp_nodelay(true);
+		// A client keeps its connection for as long as it uses it; an idle one still closes after httplib's 5 s.
+		server.set_keep_alive_max_count(keepAliveRequests);
 		server.set_payload_max_length(maxBodyBytes);
+		server.new_task_queue = [] { return new httplib::ThreadPool(workerCount); };
 
 		server.set_pre_routing_handler([](const httplib::Request&, httplib::Response& response)
 		{
