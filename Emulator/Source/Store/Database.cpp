@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <stdexcept>
+#include <tuple>
 
 namespace quorvel::emulator
 {
@@ -24,12 +25,63 @@ namespace quorvel::emulator
 			throw std::runtime_error("cannot open database " + path + ": " + message);
 		}
 		sqlite3_busy_timeout(db, 5000);
-		execute("PRAGMA foreign_keys = ON");
+		try
+		{
+			// A file that is not a database opens fine and fails here, at its first read.
+			execute("PRAGMA foreign_keys = ON");
+		}
+		catch (...)
+		{
+			sqlite3_close(db);
+			throw;
+		}
 	}
 
 	Database::~Database()
 	{
+		for (const auto& [sql, statements] : idleStatements)
+		{
+			for (sqlite3_stmt* statement : statements)
+			{
+				sqlite3_finalize(statement);
+			}
+		}
 		sqlite3_close(db);
+	}
+
+	std::pair<sqlite3_stmt*, Database::StatementPool*> Database::acquire(std::string_view sql)
+	{
+		StatementPool* pool = nullptr;
+		{
+			std::lock_guard lock(poolMutex);
+			auto idle = idleStatements.find(sql);
+			if (idle == idleStatements.end())
+			{
+				idle = idleStatements.emplace(std::string(sql), StatementPool()).first;
+			}
+			// The map's nodes stay put as it grows, so the pool can be handed out.
+			pool = &idle->second;
+			if (!pool->empty())
+			{
+				sqlite3_stmt* statement = pool->back();
+				pool->pop_back();
+				return {statement, pool};
+			}
+		}
+		sqlite3_stmt* statement = nullptr;
+		if (sqlite3_prepare_v3(db, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+		{
+			fail(db, "cannot prepare statement");
+		}
+		return {statement, pool};
+	}
+
+	void Database::release(StatementPool& pool, sqlite3_stmt* statement)
+	{
+		sqlite3_reset(statement);
+		sqlite3_clear_bindings(statement);
+		std::lock_guard lock(poolMutex);
+		pool.push_back(statement);
 	}
 
 	void Database::execute(std::string_view sql)
@@ -46,15 +98,12 @@ namespace quorvel::emulator
 	Statement::Statement(Database& database, std::string_view sql)
 		: database(database)
 	{
-		if (sqlite3_prepare_v2(database.handle(), sql.data(), static_cast<int>(sql.size()), &statement, nullptr) != SQLITE_OK)
-		{
-			fail(database.handle(), "cannot prepare statement");
-		}
+		std::tie(statement, pool) = database.acquire(sql);
 	}
 
 	Statement::~Statement()
 	{
-		sqlite3_finalize(statement);
+		database.release(*pool, statement);
 	}
 
 	Statement& Statement::bind(int index, std::string_view value)
@@ -110,20 +159,21 @@ namespace quorvel::emulator
 	Transaction::Transaction(Database& database)
 		: database(database)
 	{
-		database.execute("BEGIN IMMEDIATE");
+		Statement(database, "BEGIN IMMEDIATE").run();
 	}
 
 	Transaction::~Transaction()
 	{
 		if (!done)
 		{
-			sqlite3_exec(database.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+			Statement rollback(database, "ROLLBACK");
+			sqlite3_step(rollback.statement);
 		}
 	}
 
 	void Transaction::commit()
 	{
-		database.execute("COMMIT");
+		Statement(database, "COMMIT").run();
 		done = true;
 	}
 }

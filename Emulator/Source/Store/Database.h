@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <mutex>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -25,7 +28,27 @@ namespace quorvel::emulator
 		sqlite3* handle() const { return db; }
 
 	private:
+		friend class Statement;
+
+		using StatementPool = std::vector<sqlite3_stmt*>;
+
+		struct TextHash
+		{
+			using is_transparent = void;
+			std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+		};
+
+		/** A prepared statement for the text, one kept from an earlier use or a new one, and the
+		    pool to give it back to. */
+		std::pair<sqlite3_stmt*, StatementPool*> acquire(std::string_view sql);
+		/** Keeps the statement, reset and unbound, for the next use of the same text. */
+		void release(StatementPool& pool, sqlite3_stmt* statement);
+
 		sqlite3* db = nullptr;
+		// Compiling SQL costs more than running the small statements the platform uses, so each text
+		// is compiled once; a text in use twice at a time gets a second statement.
+		std::mutex poolMutex;
+		std::unordered_map<std::string, StatementPool, TextHash, std::equal_to<>> idleStatements;
 	};
 
 	class Statement
@@ -51,8 +74,11 @@ namespace quorvel::emulator
 		std::int64_t integer(int column) const;
 
 	private:
+		friend class Transaction;
+
 		Database& database;
 		sqlite3_stmt* statement = nullptr;
+		Database::StatementPool* pool = nullptr;
 	};
 
 	/** Rolls back unless committed, so an exception leaves the database as it was. */
