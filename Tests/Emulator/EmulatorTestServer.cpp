@@ -4,13 +4,18 @@
 
 namespace quorvel::emulator::test
 {
+	std::string HttpReply::header(const std::string& name) const
+	{
+		const auto found = headers.find(name);
+		return found == headers.end() ? std::string() : found->second;
+	}
+
 	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath)
 		: platform(databasePath), server(platform)
 	{
-		const int port = server.bind("127.0.0.1", 0);
+		port = server.bind("127.0.0.1", 0);
 		thread = std::thread([this] { server.run(); });
-		client = std::make_unique<httplib::Client>("127.0.0.1", port);
-		client->set_read_timeout(10, 0);
+		client = newClient();
 		// httplib's stop() only acts on a server whose accept loop runs; a first reply shows it does.
 		token = signIn("tester");
 	}
@@ -21,8 +26,16 @@ namespace quorvel::emulator::test
 		thread.join();
 	}
 
+	std::unique_ptr<httplib::Client> EmulatorTestServer::newClient() const
+	{
+		auto result = std::make_unique<httplib::Client>("127.0.0.1", port);
+		result->set_read_timeout(10, 0);
+		result->set_tcp_nodelay(true);
+		return result;
+	}
+
 	HttpReply EmulatorTestServer::postText(const std::string& path, const std::string& body, const std::string& accessToken,
-		const std::string& idempotencyKey)
+		const std::string& idempotencyKey, const std::string& contentType)
 	{
 		httplib::Headers headers;
 		if (!accessToken.empty())
@@ -33,7 +46,7 @@ namespace quorvel::emulator::test
 		{
 			headers.emplace("Idempotency-Key", idempotencyKey);
 		}
-		const httplib::Result result = client->Post(path.c_str(), headers, body, "application/json");
+		const httplib::Result result = client->Post(path.c_str(), headers, body, contentType.c_str());
 		if (!result)
 		{
 			ADD_FAILURE() << "no reply to " << path << ": " << httplib::to_string(result.error());
@@ -41,7 +54,9 @@ namespace quorvel::emulator::test
 		}
 		return HttpReply{
 			.status = result->status,
+			.text = result->body,
 			.body = Json::parse(result->body, nullptr, false),
+			.headers = result->headers,
 			.requestId = result->get_header_value("X-Request-Id"),
 			.replayed = result->get_header_value("Idempotent-Replayed") == "true",
 		};

@@ -6,6 +6,7 @@
 
 #include <httplib.h>
 
+#include <memory>
 #include <string>
 #include <thread>
 
@@ -14,11 +15,15 @@ namespace quorvel::emulator::test
 	struct HttpReply
 	{
 		int status = 0;
+		std::string text;
+		/** The text as JSON; discarded when it is not. */
 		Json body;
+		httplib::Headers headers;
 		std::string requestId;
 		bool replayed = false;
 
 		std::string errorCode() const { return body.at("error").at("code").get<std::string>(); }
+		std::string header(const std::string& name) const;
 	};
 
 	class EmulatorTestServer
@@ -30,7 +35,7 @@ namespace quorvel::emulator::test
 		~EmulatorTestServer();
 
 		HttpReply postText(const std::string& path, const std::string& body, const std::string& token = {},
-			const std::string& idempotencyKey = {});
+			const std::string& idempotencyKey = {}, const std::string& contentType = "application/json");
 		HttpReply post(const std::string& path, const Json& body, const std::string& token = {},
 			const std::string& idempotencyKey = {});
 
@@ -41,11 +46,15 @@ namespace quorvel::emulator::test
 		Json ensureGrid(const std::string& token, const std::string& kind, int width, int height);
 		Json ensureSlots(const std::string& token, const std::string& kind, int slots);
 
+		/** A client of its own, for tests that need a second connection or raw results. */
+		std::unique_ptr<httplib::Client> newClient() const;
+
 		Platform platform;
 		std::string token; // the tester's
 
 	private:
 		HttpServer server;
+		int port = 0;
 		std::thread thread;
 		std::unique_ptr<httplib::Client> client;
 	};

@@ -1,5 +1,7 @@
 #include "Api/HttpServer.h"
 
+#include "Api/ApiError.h"
+#include "Api/BodyReader.h"
 #include "Api/Replies.h"
 #include "Domain/Ids.h"
 #include "Domain/Platform.h"
@@ -11,12 +13,7 @@ namespace quorvel::emulator
 {
 	namespace
 	{
-		constexpr size_t maxBodyBytes = 1 << 20;
 		constexpr const char* jsonType = "application/json";
-
-		// Each kept-alive connection holds a worker, so there are enough for a browser, a few game
-		// clients and a benchmark's clients at once; httplib's default is 8.
-		constexpr size_t workerCount = 32;
 
 		// Far more than a game session sends on one connection; the count is only there because
 		// httplib's keep-alive has one, and its default of 5 makes every client reconnect.
@@ -40,16 +37,29 @@ namespace quorvel::emulator
 			return httplib::Server::HandlerResponse::Unhandled;
 		});
 
-		server.Post(R"(/.*)", [this](const httplib::Request& http, httplib::Response& response)
+		server.Post(R"(/.*)", [this](const httplib::Request& http, httplib::Response& response, const httplib::ContentReader& reader)
 		{
-			const Request request{
-				.path = http.path,
-				.authorization = http.get_header_value("Authorization"),
-				.idempotencyKey = http.get_header_value("Idempotency-Key"),
-				.body = http.body,
-			};
-			const Reply reply = this->platform.handle(request);
+			Reply reply;
+			try
+			{
+				const Request request{
+					.path = http.path,
+					.authorization = http.get_header_value("Authorization"),
+					.idempotencyKey = http.get_header_value("Idempotency-Key"),
+					.body = readBody(http, reader, maxBodyBytes),
+				};
+				reply = this->platform.handle(request);
+			}
+			catch (const ApiError& error)
+			{
+				reply = Reply{.status = error.status, .body = errorJson(error.code, error.what())};
+			}
 			response.status = reply.status;
+			if (reply.status == 413)
+			{
+				// What is left of an oversized chunked body would be read as the next request.
+				response.set_header("Connection", "close");
+			}
 			if (reply.replayed)
 			{
 				response.set_header("Idempotent-Replayed", "true");
@@ -57,14 +67,23 @@ namespace quorvel::emulator
 			response.set_content(reply.body.dump(), jsonType);
 		});
 
-		// Failures the router produces itself (an unknown method, an oversized body) get the same error shape.
+		// Failures httplib produces itself (an unknown path or method, an unreadable request, a body over
+		// the limit outside the platform routes) get the same shape as the platform's own.
 		server.set_error_handler([](const httplib::Request& http, httplib::Response& response)
 		{
-			if (response.body.empty())
+			if (!response.has_header("X-Request-Id"))
 			{
-				const std::string code = response.status == 404 ? "not_found" : "http_" + std::to_string(response.status);
-				response.set_content(errorJson(code, http.method + " " + http.path + " is not served here").dump(), jsonType);
+				response.set_header("X-Request-Id", newId("req"));
 			}
+			if (!response.body.empty())
+			{
+				return;
+			}
+			const std::string what = http.method + " " + http.path;
+			const ApiError error = response.status == 404 ? notFound("not_found", what + " is not served here")
+				: response.status == 413 ? bodyTooLarge(maxBodyBytes)
+				: ApiError(response.status, "http_" + std::to_string(response.status), what + " was refused before it was read");
+			response.set_content(errorJson(error.code, error.what()).dump(), jsonType);
 		});
 
 		if (logRequests)

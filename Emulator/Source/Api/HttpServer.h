@@ -4,6 +4,7 @@
 
 #include <httplib.h>
 
+#include <cstddef>
 #include <string>
 
 namespace quorvel::emulator
@@ -13,6 +14,12 @@ namespace quorvel::emulator
 	class HttpServer
 	{
 	public:
+		/** The largest request body served; a larger one gets 413 body_too_large. */
+		static constexpr std::size_t maxBodyBytes = std::size_t(1) << 20;
+		/** Each kept-alive connection holds a worker, so there are enough for a browser, a few game
+		    clients and a benchmark's clients at once. */
+		static constexpr std::size_t workerCount = 32;
+
 		explicit HttpServer(Platform& platform, bool logRequests = false);
 
 		/** Binds at once, so that clients may connect before run(); port 0 lets the system pick.
