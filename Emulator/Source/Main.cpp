@@ -2,6 +2,7 @@
 //   --port N    port on 127.0.0.1 (default 8787; 0 picks a free one)
 //   --db PATH   SQLite file that keeps state between runs (default: in memory)
 //   --seed      put a few stacks into the demo player's stash
+//   --catalog PATH  the item catalog (default Content/Items/Catalog.json)
 #include "Api/HttpServer.h"
 #include "Domain/Platform.h"
 #include "Domain/Seed.h"
@@ -20,11 +21,12 @@ namespace
 		int port = 8787;
 		std::string database = ":memory:";
 		bool seed = false;
+		std::string catalog = "Content/Items/Catalog.json";
 	};
 
 	int usage()
 	{
-		std::cerr << "usage: QuorvelEmulator [--port N] [--db PATH] [--seed]\n";
+		std::cerr << "usage: QuorvelEmulator [--port N] [--db PATH] [--seed] [--catalog PATH]\n";
 		return 2;
 	}
 
@@ -54,6 +56,10 @@ int main(int argc, char** argv)
 		{
 			options.seed = true;
 		}
+		else if (argument == "--catalog" && hasValue)
+		{
+			options.catalog = argv[++i];
+		}
 		else
 		{
 			return usage();
@@ -63,10 +69,10 @@ int main(int argc, char** argv)
 	try
 	{
 		using namespace quorvel::emulator;
-		Platform platform(options.database);
+		Platform platform(options.database, PlatformSettings{.catalog = ItemCatalog::load(options.catalog)});
 		if (options.seed)
 		{
-			std::cout << "seeded " << seedDemoStash(platform.database()) << " stack(s) into the demo stash\n";
+			std::cout << "seeded " << seedDemoStash(platform.database(), platform.catalog()) << " stack(s) into the demo stash\n";
 		}
 		HttpServer server(platform, true);
 		const int port = server.bind("127.0.0.1", options.port);

@@ -74,9 +74,9 @@ namespace quorvel::emulator::test
 	TEST(EmulatorContainerTest, SeedFillsTheDemoStashOnlyWhileItIsEmpty)
 	{
 		EmulatorTestServer emulator;
-		const int added = seedDemoStash(emulator.platform.database());
+		const int added = seedDemoStash(emulator.platform.database(), emulator.platform.catalog());
 		EXPECT_GT(added, 0);
-		EXPECT_EQ(seedDemoStash(emulator.platform.database()), 0);
+		EXPECT_EQ(seedDemoStash(emulator.platform.database(), emulator.platform.catalog()), 0);
 
 		const Json stash = emulator.ensureSlots(emulator.signIn("demo_account"), "stash", 24);
 		EXPECT_EQ(stash["layout"], "grid");

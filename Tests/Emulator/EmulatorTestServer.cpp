@@ -11,7 +11,7 @@ namespace quorvel::emulator::test
 	}
 
 	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath)
-		: platform(databasePath), server(platform)
+		: platform(databasePath, PlatformSettings{.catalog = ItemCatalog::load("Content/Items/Catalog.json")}), server(platform)
 	{
 		port = server.bind("127.0.0.1", 0);
 		thread = std::thread([this] { server.run(); });

@@ -29,8 +29,8 @@ namespace quorvel::emulator::test
 	class EmulatorTestServer
 	{
 	public:
-		/** Serves a fresh in-memory platform, or the given database file. Signs in the player
-		    "tester" before returning, which also proves the server is accepting. */
+		/** Serves a fresh in-memory platform, or the given database file, with the shipped catalog.
+		    Signs in the player "tester" before returning, which also proves the server is accepting. */
 		explicit EmulatorTestServer(const std::string& databasePath = ":memory:");
 		~EmulatorTestServer();
 

@@ -143,6 +143,20 @@ namespace quorvel::emulator::test
 		EXPECT_EQ(reread(stash)["items"].size(), 0u);
 	}
 
+	TEST_F(EmulatorInventoryTest, GrantRefusesMoreThanTheCatalogsStackLimitForTheItem)
+	{
+		const Json stash = emulator.ensureGrid(emulator.token, "stash", 6, 6);
+		const HttpReply tooMany = grant(stash, "medkit", 6);
+		EXPECT_EQ(tooMany.status, 422);
+		EXPECT_EQ(tooMany.errorCode(), "stack_limit_exceeded");
+		EXPECT_NE(tooMany.body["error"]["message"].get<std::string>().find("at most 5"), std::string::npos);
+		EXPECT_EQ(grant(stash, "rifle", 2).errorCode(), "stack_limit_exceeded");
+
+		EXPECT_EQ(granted(stash, "medkit", 5)["quantity"], 5);
+		EXPECT_EQ(granted(stash, "ammo_556", 120)["quantity"], 120);
+		EXPECT_EQ(reread(stash)["items"].size(), 2u);
+	}
+
 	TEST_F(EmulatorInventoryTest, ConsumeTakesPartOfAStackAndRemovesTheStackOnceEmpty)
 	{
 		const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);

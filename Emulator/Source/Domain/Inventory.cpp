@@ -21,7 +21,7 @@ namespace quorvel::emulator
 		}
 	}
 
-	Json grantItem(Database& database, const std::string& playerId, const Json& body)
+	Json grantItem(Database& database, const ItemCatalog& catalog, const std::string& playerId, const Json& body)
 	{
 		const std::string containerId = requiredString(body, "container_id");
 		const std::string itemId = requiredString(body, "item_id");
@@ -31,10 +31,15 @@ namespace quorvel::emulator
 		{
 			throw unprocessable("invalid_quantity", "\"quantity\" must be at least 1");
 		}
-		const std::optional<ItemDefinition> item = findItem(itemId);
+		const ItemDefinition* item = catalog.find(itemId);
 		if (!item)
 		{
 			throw unprocessable("unknown_item", "no item definition '" + itemId + "'");
+		}
+		if (quantity > item->maxStack)
+		{
+			throw unprocessable("stack_limit_exceeded", "a stack of '" + itemId + "' holds at most "
+				+ std::to_string(item->maxStack) + ", not " + std::to_string(quantity));
 		}
 
 		const Container container = requireContainer(database, playerId, containerId);

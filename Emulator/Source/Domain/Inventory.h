@@ -9,9 +9,11 @@
 namespace quorvel::emulator
 {
 	class Database;
+	class ItemCatalog;
 
-	/** Adds a new stack of a known item: {"container_id", "item_id", "quantity", "to"?}. */
-	Json grantItem(Database& database, const std::string& playerId, const Json& body);
+	/** Adds a new stack of an item the catalog knows, no larger than its stack limit:
+	    {"container_id", "item_id", "quantity", "to"?}. */
+	Json grantItem(Database& database, const ItemCatalog& catalog, const std::string& playerId, const Json& body);
 
 	/** Takes some or all of a stack: {"instance_id", "quantity"?}; no quantity takes the whole stack. */
 	Json consumeItem(Database& database, const std::string& playerId, const Json& body);

@@ -14,7 +14,7 @@ namespace quorvel::emulator
 {
 	namespace
 	{
-		using Operation = Json (*)(Database&, const std::string&, const Json&);
+		using Operation = Json (*)(Database&, const ItemCatalog&, const std::string& playerId, const Json& body);
 
 		struct Route
 		{
@@ -22,13 +22,20 @@ namespace quorvel::emulator
 			bool idempotent;
 		};
 
+		/** An operation with no use for the catalog, in the shape of those that have. */
+		template <Json (*operation)(Database&, const std::string&, const Json&)>
+		Json catalogFree(Database& database, const ItemCatalog&, const std::string& playerId, const Json& body)
+		{
+			return operation(database, playerId, body);
+		}
+
 		const std::map<std::string, Route, std::less<>>& routes()
 		{
 			static const std::map<std::string, Route, std::less<>> table{
-				{"/v1/game/containers/ensure", {&ensureContainer, false}},
+				{"/v1/game/containers/ensure", {&catalogFree<&ensureContainer>, false}},
 				{"/v1/game/inventory/grant", {&grantItem, true}},
-				{"/v1/game/inventory/consume", {&consumeItem, true}},
-				{"/v1/game/inventory/move", {&moveItem, true}},
+				{"/v1/game/inventory/consume", {&catalogFree<&consumeItem>, true}},
+				{"/v1/game/inventory/move", {&catalogFree<&moveItem>, true}},
 			};
 			return table;
 		}
@@ -39,8 +46,8 @@ namespace quorvel::emulator
 		}
 	}
 
-	Platform::Platform(const std::string& databasePath)
-		: db(databasePath)
+	Platform::Platform(const std::string& databasePath, PlatformSettings platformSettings)
+		: settings(std::move(platformSettings)), db(databasePath)
 	{
 		createSchema(db);
 	}
@@ -92,7 +99,7 @@ namespace quorvel::emulator
 			Transaction transaction(db);
 			try
 			{
-				reply.body = route->second.operation(db, playerId, parseBody(request.body));
+				reply.body = route->second.operation(db, settings.catalog, playerId, parseBody(request.body));
 				if (remember)
 				{
 					storeReply(db, playerId, request, reply);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Api/Reply.h"
+#include "Domain/ItemCatalog.h"
 #include "Store/Database.h"
 
 #include <mutex>
@@ -10,13 +11,20 @@
 
 namespace quorvel::emulator
 {
+	struct PlatformSettings
+	{
+		ItemCatalog catalog;
+	};
+
 	class Platform
 	{
 	public:
 		/** Opens (or creates) the database and its tables. */
-		explicit Platform(const std::string& databasePath);
+		Platform(const std::string& databasePath, PlatformSettings settings);
 
 		Reply handle(const Request& request);
+
+		const ItemCatalog& catalog() const { return settings.catalog; }
 
 		/** For setting up state before serving; not for use while requests run. */
 		Database& database() { return db; }
@@ -24,6 +32,7 @@ namespace quorvel::emulator
 	private:
 		Reply handleAuthenticated(const Request& request);
 
+		PlatformSettings settings;
 		std::mutex mutex;
 		Database db;
 	};

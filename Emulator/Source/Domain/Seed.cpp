@@ -1,5 +1,6 @@
 #include "Domain/Seed.h"
 
+#include "Api/ApiError.h"
 #include "Domain/Accounts.h"
 #include "Domain/Containers.h"
 #include "Domain/Ids.h"
@@ -33,9 +34,37 @@ namespace quorvel::emulator
 			{"pistol", 1, 3, 2, true},
 			{"ration", 4, 5, 2, false},
 		}};
+
+		/** Places the stack at its demo cell, or wherever it fits when another catalog's footprints
+		    make that cell unusable; false when it fits nowhere. */
+		bool place(const Container& stash, const std::vector<Stack>& stacks, Stack& stack, const SeedStack& seed)
+		{
+			// A stash made earlier as slots gets the same stacks in its first free slots.
+			if (!stash.isSlots())
+			{
+				try
+				{
+					const Json cell{{"x", seed.x}, {"y", seed.y}, {"rotated", seed.rotated}};
+					applyPlacement(stack, placeStack(stash, stacks, stack, &cell));
+					return true;
+				}
+				catch (const ApiError&)
+				{
+				}
+			}
+			try
+			{
+				applyPlacement(stack, placeStack(stash, stacks, stack, nullptr));
+				return true;
+			}
+			catch (const ApiError&)
+			{
+				return false;
+			}
+		}
 	}
 
-	int seedDemoStash(Database& database)
+	int seedDemoStash(Database& database, const ItemCatalog& catalog)
 	{
 		Transaction transaction(database);
 		const std::string playerId = playerFor(database, "anonymous", "demo_account");
@@ -47,20 +76,24 @@ namespace quorvel::emulator
 		}
 		for (const SeedStack& seed : demoStacks)
 		{
-			const ItemDefinition item = *findItem(seed.itemId);
+			const ItemDefinition* item = catalog.find(seed.itemId);
+			if (!item || seed.quantity > item->maxStack)
+			{
+				continue;
+			}
 			Stack stack{
 				.id = newId("inst"),
 				.containerId = stash.id,
 				.itemId = seed.itemId,
 				.quantity = seed.quantity,
-				.baseWidth = item.width,
-				.baseHeight = item.height,
+				.baseWidth = item->width,
+				.baseHeight = item->height,
 			};
-			// A stash made earlier as slots gets the same stacks in its first free slots.
-			const Json cell{{"x", seed.x}, {"y", seed.y}, {"rotated", seed.rotated}};
-			applyPlacement(stack, placeStack(stash, stacks, stack, stash.isSlots() ? nullptr : &cell));
-			insertStack(database, stack);
-			stacks.push_back(stack);
+			if (place(stash, stacks, stack, seed))
+			{
+				insertStack(database, stack);
+				stacks.push_back(stack);
+			}
 		}
 		transaction.commit();
 		return static_cast<int>(stacks.size());

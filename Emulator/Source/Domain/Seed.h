@@ -5,8 +5,10 @@
 namespace quorvel::emulator
 {
 	class Database;
+	class ItemCatalog;
 
 	/** Fills the demo stash with a few stacks, unless it holds some already (a file database keeps
-	    them between runs). Returns how many stacks were added. */
-	int seedDemoStash(Database& database);
+	    them between runs). A demo stack whose item the catalog lacks or limits below its quantity is
+	    left out. Returns how many stacks were added. */
+	int seedDemoStash(Database& database, const ItemCatalog& catalog);
 }
