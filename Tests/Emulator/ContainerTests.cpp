@@ -60,7 +60,7 @@ namespace quorvel::emulator::test
 		{
 			EmulatorTestServer emulator(file.string());
 			const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);
-			ASSERT_EQ(emulator.post("/v1/game/inventory/grant",
+			ASSERT_EQ(emulator.change("/v1/game/inventory/grant",
 				{{"container_id", stash["id"]}, {"item_id", "medkit"}, {"quantity", 3}}, emulator.token).status, 200);
 			before = emulator.ensureGrid(emulator.token, "stash", 4, 4);
 		}

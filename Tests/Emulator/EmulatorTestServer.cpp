@@ -10,8 +10,23 @@ namespace quorvel::emulator::test
 		return found == headers.end() ? std::string() : found->second;
 	}
 
+	PlatformSettings shippedSettings()
+	{
+		return PlatformSettings{.catalog = ItemCatalog::load("Content/Items/Catalog.json")};
+	}
+
 	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath)
-		: platform(databasePath, PlatformSettings{.catalog = ItemCatalog::load("Content/Items/Catalog.json")}), server(platform)
+		: EmulatorTestServer(databasePath, shippedSettings())
+	{
+	}
+
+	EmulatorTestServer::EmulatorTestServer(PlatformSettings settings)
+		: EmulatorTestServer(":memory:", std::move(settings))
+	{
+	}
+
+	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath, PlatformSettings settings)
+		: platform(databasePath, std::move(settings)), server(platform)
 	{
 		port = server.bind("127.0.0.1", 0);
 		thread = std::thread([this] { server.run(); });
@@ -66,6 +81,11 @@ namespace quorvel::emulator::test
 		const std::string& idempotencyKey)
 	{
 		return postText(path, body.dump(), accessToken, idempotencyKey);
+	}
+
+	HttpReply EmulatorTestServer::change(const std::string& path, const Json& body, const std::string& accessToken)
+	{
+		return post(path, body, accessToken, "test-change-" + std::to_string(++keysUsed));
 	}
 
 	std::string EmulatorTestServer::signIn(const std::string& ticket)

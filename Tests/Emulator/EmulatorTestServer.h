@@ -32,12 +32,16 @@ namespace quorvel::emulator::test
 		/** Serves a fresh in-memory platform, or the given database file, with the shipped catalog.
 		    Signs in the player "tester" before returning, which also proves the server is accepting. */
 		explicit EmulatorTestServer(const std::string& databasePath = ":memory:");
+		/** A fresh in-memory platform with these settings. */
+		explicit EmulatorTestServer(PlatformSettings settings);
 		~EmulatorTestServer();
 
 		HttpReply postText(const std::string& path, const std::string& body, const std::string& token = {},
 			const std::string& idempotencyKey = {}, const std::string& contentType = "application/json");
 		HttpReply post(const std::string& path, const Json& body, const std::string& token = {},
 			const std::string& idempotencyKey = {});
+		/** A post with an Idempotency-Key of its own, as a client sends each change it means to make. */
+		HttpReply change(const std::string& path, const Json& body, const std::string& token);
 
 		/** The access token of a fresh session for the ticket. */
 		std::string signIn(const std::string& ticket);
@@ -53,11 +57,17 @@ namespace quorvel::emulator::test
 		std::string token; // the tester's
 
 	private:
+		EmulatorTestServer(const std::string& databasePath, PlatformSettings settings);
+
 		HttpServer server;
 		int port = 0;
 		std::thread thread;
 		std::unique_ptr<httplib::Client> client;
+		int keysUsed = 0;
 	};
+
+	/** The shipped catalog with the default key window and the system clock. */
+	PlatformSettings shippedSettings();
 
 	/** The stacks of a container reply whose "id" is instanceId; null when absent. */
 	const Json* findStack(const Json& container, const std::string& instanceId);

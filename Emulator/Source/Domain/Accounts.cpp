@@ -4,18 +4,8 @@
 #include "Domain/Ids.h"
 #include "Store/Database.h"
 
-#include <chrono>
-
 namespace quorvel::emulator
 {
-	namespace
-	{
-		std::int64_t now()
-		{
-			return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch()).count();
-		}
-	}
-
 	std::string playerFor(Database& database, const std::string& provider, const std::string& subject)
 	{
 		Statement insert(database, "INSERT INTO players (id, provider, subject) VALUES (?1, ?2, ?3) ON CONFLICT DO NOTHING");
@@ -26,7 +16,7 @@ namespace quorvel::emulator
 		return query.text(0);
 	}
 
-	Json signIn(Database& database, const Json& body)
+	Json signIn(Database& database, const Json& body, std::int64_t now)
 	{
 		const std::string provider = requiredString(body, "provider");
 		const std::string ticket = requiredString(body, "ticket");
@@ -42,7 +32,7 @@ namespace quorvel::emulator
 		const std::string playerId = playerFor(database, provider, ticket);
 		const std::string token = newToken();
 		Statement insert(database, "INSERT INTO sessions (token, player_id, expires_at) VALUES (?1, ?2, ?3)");
-		insert.bind(1, token).bind(2, playerId).bind(3, now() + tokenLifetimeSeconds).run();
+		insert.bind(1, token).bind(2, playerId).bind(3, now + tokenLifetimeSeconds).run();
 
 		return Json{
 			{"tokens", {{"access_token", token}, {"token_type", "Bearer"}, {"expires_in", tokenLifetimeSeconds}}},
@@ -50,7 +40,7 @@ namespace quorvel::emulator
 		};
 	}
 
-	std::string authenticate(Database& database, const std::string& authorization)
+	std::string authenticate(Database& database, const std::string& authorization, std::int64_t now)
 	{
 		constexpr std::string_view scheme = "Bearer ";
 		if (!authorization.starts_with(scheme) || authorization.size() == scheme.size())
@@ -63,7 +53,7 @@ namespace quorvel::emulator
 		{
 			throw ApiError(401, "invalid_token", "the access token is not known");
 		}
-		if (query.integer(1) <= now())
+		if (query.integer(1) <= now)
 		{
 			throw ApiError(401, "token_expired", "the access token has expired; sign in again");
 		}

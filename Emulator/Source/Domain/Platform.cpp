@@ -14,12 +14,18 @@ namespace quorvel::emulator
 {
 	namespace
 	{
+		constexpr std::string_view sessionsPath = "/v1/game/sessions";
+
+		// Expired keys and sessions are only dead weight, never read: sweeping them once a minute is enough.
+		constexpr std::int64_t purgeIntervalSeconds = 60;
+
 		using Operation = Json (*)(Database&, const ItemCatalog&, const std::string& playerId, const Json& body);
 
 		struct Route
 		{
 			Operation operation;
-			bool idempotent;
+			/** Changes state, so it needs an Idempotency-Key to be safe to retry. */
+			bool needsKey;
 		};
 
 		/** An operation with no use for the catalog, in the shape of those that have. */
@@ -44,28 +50,70 @@ namespace quorvel::emulator
 		{
 			return Reply{.status = error.status, .body = errorJson(error.code, error.what())};
 		}
+
+		Reply apply(Database& database, const ItemCatalog& catalog, const Route& route, const std::string& playerId,
+			const Request& request)
+		{
+			Transaction transaction(database);
+			Reply reply{.body = route.operation(database, catalog, playerId, parseBody(request.body))};
+			transaction.commit();
+			return reply;
+		}
+
+		/** Applies the request unless its key was seen within the window, and remembers the reply,
+		    refusals included. */
+		Reply applyOnce(Database& database, const ItemCatalog& catalog, const Route& route, const std::string& playerId,
+			const Request& request, const KeyWindow& window)
+		{
+			if (request.idempotencyKey.empty())
+			{
+				throw ApiError(400, "idempotency_key_missing",
+					"send an \"Idempotency-Key\" header, new for each change you mean to make, so that a retry is not applied twice");
+			}
+			if (std::optional<Reply> stored = findStoredReply(database, playerId, request, window))
+			{
+				return *stored;
+			}
+			Reply reply;
+			{
+				Transaction transaction(database);
+				try
+				{
+					reply.body = route.operation(database, catalog, playerId, parseBody(request.body));
+					storeReply(database, playerId, request, reply, window.now);
+					transaction.commit();
+					return reply;
+				}
+				catch (const ApiError& error)
+				{
+					reply = errorReply(error);
+				}
+			}
+			// A refusal is remembered too, after the rollback: a retry must get the same answer, not be
+			// applied later because the container has changed meanwhile.
+			storeReply(database, playerId, request, reply, window.now);
+			return reply;
+		}
 	}
 
 	Platform::Platform(const std::string& databasePath, PlatformSettings platformSettings)
 		: settings(std::move(platformSettings)), db(databasePath)
 	{
+		if (!settings.clock)
+		{
+			settings.clock = systemSeconds;
+		}
 		createSchema(db);
 	}
 
 	Reply Platform::handle(const Request& request)
 	{
 		std::lock_guard lock(mutex);
+		const std::int64_t now = settings.clock();
 		try
 		{
-			if (request.path == "/v1/game/sessions")
-			{
-				const Json body = parseBody(request.body);
-				Transaction transaction(db);
-				Reply reply{.body = signIn(db, body)};
-				transaction.commit();
-				return reply;
-			}
-			return handleAuthenticated(request);
+			purgeNowAndThen(now);
+			return request.path == sessionsPath ? signIn(request, now) : handleAuthenticated(request, now);
 		}
 		catch (const ApiError& error)
 		{
@@ -77,46 +125,35 @@ namespace quorvel::emulator
 		}
 	}
 
-	Reply Platform::handleAuthenticated(const Request& request)
+	Reply Platform::signIn(const Request& request, std::int64_t now)
+	{
+		const Json body = parseBody(request.body);
+		Transaction transaction(db);
+		Reply reply{.body = emulator::signIn(db, body, now)};
+		transaction.commit();
+		return reply;
+	}
+
+	Reply Platform::handleAuthenticated(const Request& request, std::int64_t now)
 	{
 		const auto route = routes().find(request.path);
 		if (route == routes().end())
 		{
 			throw notFound("not_found", "no endpoint " + request.path);
 		}
-		const std::string playerId = authenticate(db, request.authorization);
-		const bool remember = route->second.idempotent && !request.idempotencyKey.empty();
-		if (remember)
-		{
-			if (std::optional<Reply> stored = findStoredReply(db, playerId, request))
-			{
-				return *stored;
-			}
-		}
+		const std::string playerId = authenticate(db, request.authorization, now);
+		const KeyWindow window{.now = now, .seconds = settings.keyTtlSeconds};
+		return route->second.needsKey ? applyOnce(db, settings.catalog, route->second, playerId, request, window)
+			: apply(db, settings.catalog, route->second, playerId, request);
+	}
 
-		Reply reply;
+	void Platform::purgeNowAndThen(std::int64_t now)
+	{
+		if (now < nextPurge)
 		{
-			Transaction transaction(db);
-			try
-			{
-				reply.body = route->second.operation(db, settings.catalog, playerId, parseBody(request.body));
-				if (remember)
-				{
-					storeReply(db, playerId, request, reply);
-				}
-				transaction.commit();
-			}
-			catch (const ApiError& error)
-			{
-				reply = errorReply(error);
-			}
+			return;
 		}
-		// A refusal is remembered too, after the rollback: a retry must get the same answer, not be
-		// applied later because the container has changed meanwhile.
-		if (remember && reply.status != 200)
-		{
-			storeReply(db, playerId, request, reply);
-		}
-		return reply;
+		purgeExpired(db, KeyWindow{.now = now, .seconds = settings.keyTtlSeconds});
+		nextPurge = now + purgeIntervalSeconds;
 	}
 }

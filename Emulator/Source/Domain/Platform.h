@@ -3,9 +3,11 @@
 #pragma once
 
 #include "Api/Reply.h"
+#include "Domain/Clock.h"
 #include "Domain/ItemCatalog.h"
 #include "Store/Database.h"
 
+#include <cstdint>
 #include <mutex>
 #include <string>
 
@@ -14,6 +16,10 @@ namespace quorvel::emulator
 	struct PlatformSettings
 	{
 		ItemCatalog catalog;
+		/** How long an Idempotency-Key is remembered, in seconds. */
+		std::int64_t keyTtlSeconds = 86400;
+		/** Seconds since the epoch; empty means the system clock. */
+		Clock clock;
 	};
 
 	class Platform
@@ -26,14 +32,17 @@ namespace quorvel::emulator
 
 		const ItemCatalog& catalog() const { return settings.catalog; }
 
-		/** For setting up state before serving; not for use while requests run. */
+		/** For setting up state in tests before serving; not for use while requests run. */
 		Database& database() { return db; }
 
 	private:
-		Reply handleAuthenticated(const Request& request);
+		Reply signIn(const Request& request, std::int64_t now);
+		Reply handleAuthenticated(const Request& request, std::int64_t now);
+		void purgeNowAndThen(std::int64_t now);
 
 		PlatformSettings settings;
 		std::mutex mutex;
 		Database db;
+		std::int64_t nextPurge = 0;
 	};
 }

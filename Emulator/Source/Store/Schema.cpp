@@ -4,8 +4,28 @@
 
 namespace quorvel::emulator
 {
+	namespace
+	{
+		// Raised whenever a table changes shape; files from before get the change in migrate().
+		constexpr int schemaVersion = 2;
+
+		void migrate(Database& database)
+		{
+			Statement query(database, "PRAGMA user_version");
+			query.step();
+			const std::int64_t version = query.integer(0);
+			if (version < 2)
+			{
+				// Version 1 kept replies without a time, so they could never expire. They are only
+				// retry guards, so starting them afresh loses nothing a client relies on.
+				database.execute("DROP TABLE IF EXISTS idempotent_replies");
+			}
+		}
+	}
+
 	void createSchema(Database& database)
 	{
+		migrate(database);
 		database.execute(R"sql(
 			CREATE TABLE IF NOT EXISTS players (
 				id       TEXT PRIMARY KEY,
@@ -49,14 +69,17 @@ namespace quorvel::emulator
 			CREATE INDEX IF NOT EXISTS stacks_by_container ON stacks (container_id);
 
 			CREATE TABLE IF NOT EXISTS idempotent_replies (
-				player_id TEXT NOT NULL,
-				key       TEXT NOT NULL,
-				path      TEXT NOT NULL,
-				request   TEXT NOT NULL,
-				status    INTEGER NOT NULL,
-				reply     TEXT NOT NULL,
+				player_id  TEXT NOT NULL,
+				key        TEXT NOT NULL,
+				path       TEXT NOT NULL,
+				request    TEXT NOT NULL,
+				status     INTEGER NOT NULL,
+				reply      TEXT NOT NULL,
+				created_at INTEGER NOT NULL,
 				PRIMARY KEY (player_id, key)
 			);
+			CREATE INDEX IF NOT EXISTS idempotent_replies_by_age ON idempotent_replies (created_at);
 		)sql");
+		database.execute("PRAGMA user_version = " + std::to_string(schemaVersion));
 	}
 }
