@@ -1,5 +1,7 @@
-// The item catalog read from JSON at start-up, checked entry by entry.
+// The item catalog read from JSON at start-up: checked entry by entry, and used by grant and seed.
 #include "Domain/ItemCatalog.h"
+#include "EmulatorTestServer.h"
+#include "TemporaryFile.h"
 
 #include <gtest/gtest.h>
 
@@ -50,5 +52,48 @@ namespace quorvel::emulator::test
 			}
 		}
 		EXPECT_THROW(ItemCatalog::load("Content/Items/Missing.json"), CatalogError);
+	}
+
+	TEST(EmulatorCatalogTest, AnotherCatalogReplacesTheItemsGrantAndSeedKnow)
+	{
+		const TemporaryFile catalog("Catalog.json");
+		catalog.write(R"({"items": [{"id": "crate", "width": 2, "height": 3, "max_stack": 4},
+			{"id": "medkit", "width": 1, "height": 1, "max_stack": 1}]})");
+		EmulatorOptions options = testOptions();
+		options.catalog = catalog.path();
+		options.seed = true;
+		EmulatorTestServer emulator(options);
+		// Of the demo stacks only the medkit is known here, and two exceed its limit of one.
+		EXPECT_EQ(emulator.service.seededStacks(), 0);
+
+		const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);
+		const auto grant = [&](const std::string& item, int quantity)
+		{
+			return emulator.change("/v1/game/inventory/grant", {{"container_id", stash["id"]}, {"item_id", item}, {"quantity", quantity}},
+				emulator.token);
+		};
+		const HttpReply crate = grant("crate", 4);
+		ASSERT_EQ(crate.status, 200);
+		EXPECT_EQ(crate.body["instance"]["grid_w"], 2);
+		EXPECT_EQ(crate.body["instance"]["grid_h"], 3);
+		EXPECT_EQ(grant("crate", 5).errorCode(), "stack_limit_exceeded");
+		EXPECT_EQ(grant("rifle", 1).errorCode(), "unknown_item");
+	}
+
+	TEST(EmulatorCatalogTest, AnEmulatorWithABadCatalogDoesNotStart)
+	{
+		const TemporaryFile catalog("Broken.json");
+		catalog.write(R"({"items": [{"id": "crate"}]})");
+		EmulatorOptions options = testOptions();
+		options.catalog = catalog.path();
+		try
+		{
+			Emulator emulator(options);
+			ADD_FAILURE() << "started";
+		}
+		catch (const std::runtime_error& error)
+		{
+			EXPECT_EQ(std::string(error.what()), catalog.path() + ": items[0]: \"width\" is required");
+		}
 	}
 }

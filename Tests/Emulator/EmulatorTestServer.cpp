@@ -10,61 +10,44 @@ namespace quorvel::emulator::test
 		return found == headers.end() ? std::string() : found->second;
 	}
 
-	PlatformSettings shippedSettings()
+	EmulatorOptions testOptions()
 	{
-		return PlatformSettings{.catalog = ItemCatalog::load("Content/Items/Catalog.json")};
+		return EmulatorOptions{.port = 0, .database = ":memory:"};
 	}
 
-	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath)
-		: EmulatorTestServer(databasePath, shippedSettings())
-	{
-	}
-
-	EmulatorTestServer::EmulatorTestServer(PlatformSettings settings)
-		: EmulatorTestServer(":memory:", std::move(settings))
-	{
-	}
-
-	EmulatorTestServer::EmulatorTestServer(const std::string& databasePath, PlatformSettings settings)
-		: platform(databasePath, std::move(settings)), server(platform)
-	{
-		port = server.bind("127.0.0.1", 0);
-		thread = std::thread([this] { server.run(); });
-		client = newClient();
-		// httplib's stop() only acts on a server whose accept loop runs; a first reply shows it does.
-		token = signIn("tester");
-	}
-
-	EmulatorTestServer::~EmulatorTestServer()
-	{
-		server.stop();
-		thread.join();
-	}
-
-	std::unique_ptr<httplib::Client> EmulatorTestServer::newClient() const
-	{
-		auto result = std::make_unique<httplib::Client>("127.0.0.1", port);
-		result->set_read_timeout(10, 0);
-		result->set_tcp_nodelay(true);
-		return result;
-	}
-
-	HttpReply EmulatorTestServer::postText(const std::string& path, const std::string& body, const std::string& accessToken,
-		const std::string& idempotencyKey, const std::string& contentType)
+	httplib::Headers platformHeaders(const std::string& token, const std::string& idempotencyKey)
 	{
 		httplib::Headers headers;
-		if (!accessToken.empty())
+		if (!token.empty())
 		{
-			headers.emplace("Authorization", "Bearer " + accessToken);
+			headers.emplace("Authorization", "Bearer " + token);
 		}
 		if (!idempotencyKey.empty())
 		{
 			headers.emplace("Idempotency-Key", idempotencyKey);
 		}
-		const httplib::Result result = client->Post(path.c_str(), headers, body, contentType.c_str());
+		return headers;
+	}
+
+	EmulatorTestServer::EmulatorTestServer(const EmulatorOptions& options)
+		: service(options), client(newClient())
+	{
+		token = signIn("tester");
+	}
+
+	std::unique_ptr<httplib::Client> EmulatorTestServer::newClient() const
+	{
+		auto result = std::make_unique<httplib::Client>("127.0.0.1", service.port());
+		result->set_read_timeout(10, 0);
+		result->set_tcp_nodelay(true);
+		return result;
+	}
+
+	HttpReply EmulatorTestServer::replyOf(const httplib::Result& result, const std::string& what)
+	{
 		if (!result)
 		{
-			ADD_FAILURE() << "no reply to " << path << ": " << httplib::to_string(result.error());
+			ADD_FAILURE() << "no reply to " << what << ": " << httplib::to_string(result.error());
 			return {};
 		}
 		return HttpReply{
@@ -77,6 +60,12 @@ namespace quorvel::emulator::test
 		};
 	}
 
+	HttpReply EmulatorTestServer::postText(const std::string& path, const std::string& body, const std::string& accessToken,
+		const std::string& idempotencyKey, const std::string& contentType)
+	{
+		return replyOf(client->Post(path.c_str(), platformHeaders(accessToken, idempotencyKey), body, contentType.c_str()), path);
+	}
+
 	HttpReply EmulatorTestServer::post(const std::string& path, const Json& body, const std::string& accessToken,
 		const std::string& idempotencyKey)
 	{
@@ -86,6 +75,16 @@ namespace quorvel::emulator::test
 	HttpReply EmulatorTestServer::change(const std::string& path, const Json& body, const std::string& accessToken)
 	{
 		return post(path, body, accessToken, "test-change-" + std::to_string(++keysUsed));
+	}
+
+	HttpReply EmulatorTestServer::get(const std::string& path)
+	{
+		return replyOf(client->Get(path.c_str()), path);
+	}
+
+	HttpReply EmulatorTestServer::put(const std::string& path, const Json& body)
+	{
+		return replyOf(client->Put(path.c_str(), body.dump(), "application/json"), path);
 	}
 
 	std::string EmulatorTestServer::signIn(const std::string& ticket)

@@ -1,14 +1,12 @@
 // The emulator on 127.0.0.1 and a port the system picks, with a client that speaks its protocol.
 #pragma once
 
-#include "Api/HttpServer.h"
-#include "Domain/Platform.h"
+#include "Emulator.h"
 
 #include <httplib.h>
 
 #include <memory>
 #include <string>
-#include <thread>
 
 namespace quorvel::emulator::test
 {
@@ -26,15 +24,15 @@ namespace quorvel::emulator::test
 		std::string header(const std::string& name) const;
 	};
 
+	/** Port 0 and a fresh in-memory database, otherwise the defaults. */
+	EmulatorOptions testOptions();
+
 	class EmulatorTestServer
 	{
 	public:
-		/** Serves a fresh in-memory platform, or the given database file, with the shipped catalog.
-		    Signs in the player "tester" before returning, which also proves the server is accepting. */
-		explicit EmulatorTestServer(const std::string& databasePath = ":memory:");
-		/** A fresh in-memory platform with these settings. */
-		explicit EmulatorTestServer(PlatformSettings settings);
-		~EmulatorTestServer();
+		/** Serves a fresh in-memory platform, or what the options say. Signs in the player "tester"
+		    before returning. */
+		explicit EmulatorTestServer(const EmulatorOptions& options = testOptions());
 
 		HttpReply postText(const std::string& path, const std::string& body, const std::string& token = {},
 			const std::string& idempotencyKey = {}, const std::string& contentType = "application/json");
@@ -42,6 +40,8 @@ namespace quorvel::emulator::test
 			const std::string& idempotencyKey = {});
 		/** A post with an Idempotency-Key of its own, as a client sends each change it means to make. */
 		HttpReply change(const std::string& path, const Json& body, const std::string& token);
+		HttpReply get(const std::string& path);
+		HttpReply put(const std::string& path, const Json& body);
 
 		/** The access token of a fresh session for the ticket. */
 		std::string signIn(const std::string& ticket);
@@ -53,22 +53,19 @@ namespace quorvel::emulator::test
 		/** A client of its own, for tests that need a second connection or raw results. */
 		std::unique_ptr<httplib::Client> newClient() const;
 
-		Platform platform;
+		Emulator service;
 		std::string token; // the tester's
 
 	private:
-		EmulatorTestServer(const std::string& databasePath, PlatformSettings settings);
+		HttpReply replyOf(const httplib::Result& result, const std::string& what);
 
-		HttpServer server;
-		int port = 0;
-		std::thread thread;
 		std::unique_ptr<httplib::Client> client;
 		int keysUsed = 0;
 	};
 
-	/** The shipped catalog with the default key window and the system clock. */
-	PlatformSettings shippedSettings();
-
 	/** The stacks of a container reply whose "id" is instanceId; null when absent. */
 	const Json* findStack(const Json& container, const std::string& instanceId);
+
+	/** Headers with a bearer token and, when given, an Idempotency-Key. */
+	httplib::Headers platformHeaders(const std::string& token, const std::string& idempotencyKey = {});
 }

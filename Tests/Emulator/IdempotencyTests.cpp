@@ -119,10 +119,10 @@ namespace quorvel::emulator::test
 	TEST(EmulatorIdempotencyTest, AKeyIsRememberedForItsWindowAndIsFreeAgainAfterIt)
 	{
 		std::atomic<std::int64_t> now = 1'700'000'000;
-		PlatformSettings settings = shippedSettings();
-		settings.keyTtlSeconds = 60;
-		settings.clock = [&now] { return now.load(); };
-		EmulatorTestServer emulator(std::move(settings));
+		EmulatorOptions options = testOptions();
+		options.keyTtlSeconds = 60;
+		options.clock = [&now] { return now.load(); };
+		EmulatorTestServer emulator(options);
 		const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);
 		const Json one{{"container_id", stash["id"]}, {"item_id", "bandage"}, {"quantity", 1}};
 		const Json two{{"container_id", stash["id"]}, {"item_id", "bandage"}, {"quantity", 2}};
@@ -147,7 +147,7 @@ namespace quorvel::emulator::test
 		// Expired keys are swept out in passing, and the sweep spares keys still in their window.
 		now += 120;
 		emulator.post(grantPath, one, emulator.token, "fresh");
-		Statement count(emulator.platform.database(), "SELECT COUNT(*) FROM idempotent_replies");
+		Statement count(emulator.service.platform().database(), "SELECT COUNT(*) FROM idempotent_replies");
 		count.step();
 		EXPECT_EQ(count.integer(0), 1);
 	}

@@ -28,7 +28,9 @@ namespace quorvel::emulator
 
 		/** Serves until stop(); call after bind(). */
 		void run();
+		/** Ends run() once it has started accepting. */
 		void stop();
+		bool isRunning() const { return server.is_running(); }
 
 	private:
 		Platform& platform;

@@ -6,7 +6,9 @@
 #include "Domain/Containers.h"
 #include "Domain/Idempotency.h"
 #include "Domain/Inventory.h"
+#include "Domain/Seed.h"
 #include "Store/Schema.h"
+#include "Store/StateDocument.h"
 
 #include <map>
 
@@ -155,5 +157,31 @@ namespace quorvel::emulator
 		}
 		purgeExpired(db, KeyWindow{.now = now, .seconds = settings.keyTtlSeconds});
 		nextPurge = now + purgeIntervalSeconds;
+	}
+
+	void Platform::reset()
+	{
+		std::lock_guard lock(mutex);
+		Transaction transaction(db);
+		clearState(db);
+		transaction.commit();
+	}
+
+	int Platform::seedDemo()
+	{
+		std::lock_guard lock(mutex);
+		return seedDemoStash(db, settings.catalog);
+	}
+
+	Json Platform::exportState()
+	{
+		std::lock_guard lock(mutex);
+		return emulator::exportState(db);
+	}
+
+	void Platform::importState(const Json& document)
+	{
+		std::lock_guard lock(mutex);
+		emulator::importState(db, document);
 	}
 }

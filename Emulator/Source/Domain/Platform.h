@@ -30,6 +30,18 @@ namespace quorvel::emulator
 
 		Reply handle(const Request& request);
 
+		/** Empties every table, the memory of the demo seed included. */
+		void reset();
+
+		/** Fills the demo stash unless this database has had it before; returns the stacks added. */
+		int seedDemo();
+
+		/** The whole state as one document (see Store/StateDocument.h). */
+		Json exportState();
+
+		/** Replaces the whole state with the document's, or changes nothing and throws StateError. */
+		void importState(const Json& document);
+
 		const ItemCatalog& catalog() const { return settings.catalog; }
 
 		/** For setting up state in tests before serving; not for use while requests run. */

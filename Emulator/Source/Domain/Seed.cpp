@@ -7,6 +7,7 @@
 #include "Domain/ItemCatalog.h"
 #include "Domain/Placement.h"
 #include "Store/Database.h"
+#include "Store/Meta.h"
 #include "Store/Statements.h"
 
 #include <array>
@@ -67,35 +68,40 @@ namespace quorvel::emulator
 	int seedDemoStash(Database& database, const ItemCatalog& catalog)
 	{
 		Transaction transaction(database);
-		const std::string playerId = playerFor(database, "anonymous", "demo_account");
-		const Container stash = ensureContainer(database, playerId, "stash", "grid", 10, 8, 24);
-		std::vector<Stack> stacks = stacksIn(database, stash.id);
-		if (!stacks.empty())
+		if (demoSeeded(database))
 		{
 			return 0;
 		}
-		for (const SeedStack& seed : demoStacks)
+		const std::string playerId = playerFor(database, "anonymous", "demo_account");
+		const Container stash = ensureContainer(database, playerId, "stash", "grid", 10, 8, 24);
+		std::vector<Stack> stacks = stacksIn(database, stash.id);
+		const bool wasEmpty = stacks.empty();
+		if (wasEmpty)
 		{
-			const ItemDefinition* item = catalog.find(seed.itemId);
-			if (!item || seed.quantity > item->maxStack)
+			for (const SeedStack& seed : demoStacks)
 			{
-				continue;
-			}
-			Stack stack{
-				.id = newId("inst"),
-				.containerId = stash.id,
-				.itemId = seed.itemId,
-				.quantity = seed.quantity,
-				.baseWidth = item->width,
-				.baseHeight = item->height,
-			};
-			if (place(stash, stacks, stack, seed))
-			{
-				insertStack(database, stack);
-				stacks.push_back(stack);
+				const ItemDefinition* item = catalog.find(seed.itemId);
+				if (!item || seed.quantity > item->maxStack)
+				{
+					continue;
+				}
+				Stack stack{
+					.id = newId("inst"),
+					.containerId = stash.id,
+					.itemId = seed.itemId,
+					.quantity = seed.quantity,
+					.baseWidth = item->width,
+					.baseHeight = item->height,
+				};
+				if (place(stash, stacks, stack, seed))
+				{
+					insertStack(database, stack);
+					stacks.push_back(stack);
+				}
 			}
 		}
+		setDemoSeeded(database, true);
 		transaction.commit();
-		return static_cast<int>(stacks.size());
+		return wasEmpty ? static_cast<int>(stacks.size()) : 0;
 	}
 }

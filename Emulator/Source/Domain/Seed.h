@@ -7,8 +7,9 @@ namespace quorvel::emulator
 	class Database;
 	class ItemCatalog;
 
-	/** Fills the demo stash with a few stacks, unless it holds some already (a file database keeps
-	    them between runs). A demo stack whose item the catalog lacks or limits below its quantity is
-	    left out. Returns how many stacks were added. */
+	/** Fills the demo stash with a few stacks, once per database: a note in the meta table keeps a
+	    later run from refilling a stash the player has emptied. A stash that already holds stacks is
+	    left alone, and so is a demo stack whose item the catalog lacks or limits below its quantity.
+	    Returns how many stacks were added. */
 	int seedDemoStash(Database& database, const ItemCatalog& catalog);
 }

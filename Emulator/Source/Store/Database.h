@@ -22,6 +22,9 @@ namespace quorvel::emulator
 		Database(const Database&) = delete;
 		Database& operator=(const Database&) = delete;
 
+		/** ":memory:" and the other spellings SQLite keeps in memory rather than in a file. */
+		static bool isInMemory(std::string_view path);
+
 		/** Runs one or more statements that take no parameters. */
 		void execute(std::string_view sql);
 

@@ -5,6 +5,14 @@
 
 namespace quorvel::emulator
 {
+	/** Someone signed in through a provider; the subject is who the provider says they are. */
+	struct Player
+	{
+		std::string id;
+		std::string provider;
+		std::string subject;
+	};
+
 	struct Container
 	{
 		std::string id;

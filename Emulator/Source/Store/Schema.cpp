@@ -79,7 +79,26 @@ namespace quorvel::emulator
 				PRIMARY KEY (player_id, key)
 			);
 			CREATE INDEX IF NOT EXISTS idempotent_replies_by_age ON idempotent_replies (created_at);
+
+			-- Small facts about the database itself, such as whether the demo stash was ever seeded.
+			CREATE TABLE IF NOT EXISTS meta (
+				key   TEXT PRIMARY KEY,
+				value TEXT NOT NULL
+			);
 		)sql");
 		database.execute("PRAGMA user_version = " + std::to_string(schemaVersion));
+	}
+
+	void clearState(Database& database)
+	{
+		// Children first, for the foreign keys.
+		database.execute(R"sql(
+			DELETE FROM idempotent_replies;
+			DELETE FROM sessions;
+			DELETE FROM stacks;
+			DELETE FROM containers;
+			DELETE FROM players;
+			DELETE FROM meta;
+		)sql");
 	}
 }

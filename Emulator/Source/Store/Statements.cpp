@@ -137,4 +137,43 @@ namespace quorvel::emulator
 		Statement remove(database, "DELETE FROM stacks WHERE id = ?1");
 		remove.bind(1, instanceId).run();
 	}
+
+	std::vector<Player> allPlayers(Database& database)
+	{
+		Statement query(database, "SELECT id, provider, subject FROM players ORDER BY rowid");
+		std::vector<Player> players;
+		while (query.step())
+		{
+			players.push_back(Player{.id = query.text(0), .provider = query.text(1), .subject = query.text(2)});
+		}
+		return players;
+	}
+
+	std::vector<Container> allContainers(Database& database)
+	{
+		Statement query(database, std::string("SELECT ") + containerColumns + " FROM containers ORDER BY rowid");
+		std::vector<Container> containers;
+		while (query.step())
+		{
+			containers.push_back(readContainer(query));
+		}
+		return containers;
+	}
+
+	std::vector<Stack> allStacks(Database& database)
+	{
+		Statement query(database, std::string("SELECT ") + stackColumns + " FROM stacks ORDER BY rowid");
+		std::vector<Stack> stacks;
+		while (query.step())
+		{
+			stacks.push_back(readStack(query));
+		}
+		return stacks;
+	}
+
+	void insertPlayer(Database& database, const Player& player)
+	{
+		Statement insert(database, "INSERT INTO players (id, provider, subject) VALUES (?1, ?2, ?3)");
+		insert.bind(1, player.id).bind(2, player.provider).bind(3, player.subject).run();
+	}
 }

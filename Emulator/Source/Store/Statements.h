@@ -25,4 +25,10 @@ namespace quorvel::emulator
 	/** Writes everything but the id, which never changes. */
 	void updateStack(Database& database, const Stack& stack);
 	void deleteStack(Database& database, const std::string& instanceId);
+
+	/** Every row, in the order stored: for exporting the whole state. */
+	std::vector<Player> allPlayers(Database& database);
+	std::vector<Container> allContainers(Database& database);
+	std::vector<Stack> allStacks(Database& database);
+	void insertPlayer(Database& database, const Player& player);
 }
