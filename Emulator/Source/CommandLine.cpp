@@ -7,7 +7,8 @@
 namespace quorvel::emulator
 {
 	const char* const usageLine = "usage: QuorvelEmulator [--port N] [--db FILE | --db :memory:] [--reset] [--seed]"
-		" [--catalog FILE] [--export FILE] [--import FILE] [--key-ttl SECONDS]";
+		" [--catalog FILE] [--export FILE] [--import FILE] [--key-ttl SECONDS] [--fail-rate F] [--retry-after SECONDS]"
+		" [--delay-ms N] [--drop-rate F] [--fault-seed N]";
 
 	namespace
 	{
@@ -72,6 +73,7 @@ namespace quorvel::emulator
 
 	std::optional<EmulatorOptions> parseCommandLine(const std::vector<std::string>& arguments, std::string& problem)
 	{
+		constexpr int maxInt = std::numeric_limits<int>::max();
 		EmulatorOptions options;
 		Arguments in(arguments, problem);
 		while (!in.done())
@@ -110,6 +112,29 @@ namespace quorvel::emulator
 			{
 				ok = in.number<std::int64_t>(option, options.keyTtlSeconds, 1, std::numeric_limits<std::int64_t>::max() / 2,
 					"a whole number of seconds, at least 1");
+			}
+			else if (option == "--fail-rate")
+			{
+				ok = in.number(option, options.faults.failRate, 0.0, 1.0, "a number from 0 to 1");
+			}
+			else if (option == "--retry-after")
+			{
+				ok = in.number(option, options.faults.retryAfterSeconds, 0, maxInt, "a whole number of seconds, 0 or more");
+			}
+			else if (option == "--delay-ms")
+			{
+				ok = in.number(option, options.faults.delayMs, 0, maxDelayMs,
+					"a whole number of milliseconds from 0 to " + std::to_string(maxDelayMs));
+			}
+			else if (option == "--drop-rate")
+			{
+				ok = in.number(option, options.faults.dropRate, 0.0, 1.0, "a number from 0 to 1");
+			}
+			else if (option == "--fault-seed")
+			{
+				std::uint64_t seed = 0;
+				ok = in.number<std::uint64_t>(option, seed, 0, std::numeric_limits<std::uint64_t>::max(), "a whole number, 0 or more");
+				options.faultSeed = seed;
 			}
 			else
 			{

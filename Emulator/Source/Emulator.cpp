@@ -87,8 +87,13 @@ namespace quorvel::emulator
 
 	Emulator::Emulator(const EmulatorOptions& options)
 	{
+		if (const std::string problem = faultSettingsProblem(options.faults); !problem.empty())
+		{
+			throw std::invalid_argument(problem);
+		}
 		platformState = openPlatform(options, &seeded);
-		server = std::make_unique<HttpServer>(*platformState, options.logRequests);
+		server = std::make_unique<HttpServer>(*platformState,
+			HttpServerOptions{.logRequests = options.logRequests, .faults = options.faults, .faultSeed = options.faultSeed});
 		boundPort = server->bind("127.0.0.1", options.port);
 
 		serving = std::thread([this]
@@ -118,5 +123,25 @@ namespace quorvel::emulator
 	Json Emulator::exportState()
 	{
 		return platformState->exportState();
+	}
+
+	FaultSettings Emulator::faultSettings() const
+	{
+		return server->faults().settings();
+	}
+
+	void Emulator::setFaultSettings(const FaultSettings& settings)
+	{
+		server->faults().setSettings(settings);
+	}
+
+	FaultCounts Emulator::faultCounts() const
+	{
+		return server->faults().counts();
+	}
+
+	std::vector<RequestLogEntry> Emulator::requests() const
+	{
+		return server->requestLog().newestFirst();
 	}
 }

@@ -7,12 +7,15 @@
 #pragma once
 
 #include "Api/RequestFields.h"
+#include "Api/RequestLog.h"
 #include "EmulatorOptions.h"
+#include "Faults/FaultSettings.h"
 
 #include <atomic>
 #include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace quorvel::emulator
 {
@@ -41,8 +44,16 @@ namespace quorvel::emulator
 		/** "http://127.0.0.1:<port>", without a trailing slash. */
 		std::string url() const;
 
-		/** The whole state, as --export gives it. */
+		/** The whole state, as GET /admin/state and --export give it. */
 		Json exportState();
+
+		FaultSettings faultSettings() const;
+		/** Throws std::invalid_argument for unusable settings, keeping the old ones. */
+		void setFaultSettings(const FaultSettings& settings);
+		FaultCounts faultCounts() const;
+
+		/** The request log, newest first. */
+		std::vector<RequestLogEntry> requests() const;
 
 		/** How many demo stacks this start added (0 when not seeding, or seeded before). */
 		int seededStacks() const { return seeded; }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Domain/Clock.h"
+#include "Faults/FaultSettings.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quorvel::emulator
@@ -27,6 +29,9 @@ namespace quorvel::emulator
 		std::string exportPath;
 		/** How long an Idempotency-Key is remembered. */
 		std::int64_t keyTtlSeconds = 86400;
+		FaultSettings faults;
+		/** Seeds the fault choices, for a run that can be repeated; none picks one at random. */
+		std::optional<std::uint64_t> faultSeed;
 		/** One line per request on stdout. */
 		bool logRequests = false;
 		/** Platform time in seconds since the epoch, for tests; empty means the system clock. */

@@ -1,15 +1,31 @@
 // Carries platform requests over HTTP: POST with JSON bodies, "Authorization: Bearer <token>",
-// "Idempotency-Key", and an "X-Request-Id" on every reply so a client can quote it.
+// "Idempotency-Key", and an "X-Request-Id" on every reply so a client can quote it. Beside the
+// platform it serves the admin routes (Api/AdminRoutes.h), and injects the faults its
+// FaultInjector chooses into platform requests only.
 #pragma once
+
+#include "Api/RequestLog.h"
+#include "Faults/FaultInjector.h"
 
 #include <httplib.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quorvel::emulator
 {
 	class Platform;
+
+	struct HttpServerOptions
+	{
+		/** One line per request on stdout. */
+		bool logRequests = false;
+		FaultSettings faults;
+		/** Seeds the fault choices; none picks a seed at random. */
+		std::optional<std::uint64_t> faultSeed;
+	};
 
 	class HttpServer
 	{
@@ -20,7 +36,7 @@ namespace quorvel::emulator
 		    clients and a benchmark's clients at once. */
 		static constexpr std::size_t workerCount = 32;
 
-		explicit HttpServer(Platform& platform, bool logRequests = false);
+		explicit HttpServer(Platform& platform, const HttpServerOptions& options = {});
 
 		/** Binds at once, so that clients may connect before run(); port 0 lets the system pick.
 		    Returns the port, or throws when the address cannot be bound. */
@@ -28,12 +44,21 @@ namespace quorvel::emulator
 
 		/** Serves until stop(); call after bind(). */
 		void run();
-		/** Ends run() once it has started accepting. */
+		/** Ends run() once it has started accepting; delayed replies are cut short. */
 		void stop();
 		bool isRunning() const { return server.is_running(); }
 
+		FaultInjector& faults() { return faultInjector; }
+		const RequestLog& requestLog() const { return log; }
+
 	private:
+		void servePlatform(const httplib::Request& http, httplib::Response& response, const httplib::ContentReader& reader);
+
 		Platform& platform;
+		FaultInjector faultInjector;
+		RequestLog log;
 		httplib::Server server;
+		int boundPort = 0;
+		bool logRequests = false;
 	};
 }

@@ -1,3 +1,4 @@
+// One platform request and its reply, as far as the platform cares: transport details are the server's.
 #pragma once
 
 #include "Api/RequestFields.h"
@@ -6,7 +7,6 @@
 
 namespace quorvel::emulator
 {
-	/** One platform request, as far as the platform cares: transport details are the server's. */
 	struct Request
 	{
 		std::string path;
@@ -21,5 +21,7 @@ namespace quorvel::emulator
 		Json body;
 		/** The reply was stored for this idempotency key and is sent again, not recomputed. */
 		bool replayed = false;
+		/** The player who asked, once known; for the request log, never sent. */
+		std::string playerId{};
 	};
 }

@@ -108,6 +108,11 @@ namespace quorvel::emulator
 		createSchema(db);
 	}
 
+	bool Platform::serves(std::string_view path)
+	{
+		return path == sessionsPath || routes().contains(path);
+	}
+
 	Reply Platform::handle(const Request& request)
 	{
 		std::lock_guard lock(mutex);
@@ -133,6 +138,7 @@ namespace quorvel::emulator
 		Transaction transaction(db);
 		Reply reply{.body = emulator::signIn(db, body, now)};
 		transaction.commit();
+		reply.playerId = reply.body["player"]["id"];
 		return reply;
 	}
 
@@ -144,9 +150,19 @@ namespace quorvel::emulator
 			throw notFound("not_found", "no endpoint " + request.path);
 		}
 		const std::string playerId = authenticate(db, request.authorization, now);
-		const KeyWindow window{.now = now, .seconds = settings.keyTtlSeconds};
-		return route->second.needsKey ? applyOnce(db, settings.catalog, route->second, playerId, request, window)
-			: apply(db, settings.catalog, route->second, playerId, request);
+		Reply reply;
+		try
+		{
+			const KeyWindow window{.now = now, .seconds = settings.keyTtlSeconds};
+			reply = route->second.needsKey ? applyOnce(db, settings.catalog, route->second, playerId, request, window)
+				: apply(db, settings.catalog, route->second, playerId, request);
+		}
+		catch (const ApiError& error)
+		{
+			reply = errorReply(error);
+		}
+		reply.playerId = playerId;
+		return reply;
 	}
 
 	void Platform::purgeNowAndThen(std::int64_t now)

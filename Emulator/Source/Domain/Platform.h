@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <mutex>
 #include <string>
+#include <string_view>
 
 namespace quorvel::emulator
 {
@@ -29,6 +30,9 @@ namespace quorvel::emulator
 		Platform(const std::string& databasePath, PlatformSettings settings);
 
 		Reply handle(const Request& request);
+
+		/** The five paths handle() serves; anything else is a 404. */
+		static bool serves(std::string_view path);
 
 		/** Empties every table, the memory of the demo seed included. */
 		void reset();
