@@ -53,6 +53,7 @@ namespace
 			std::cout << "seeded " << emulator.seededStacks() << " stack(s) into the demo stash\n";
 		}
 		std::cout << "state in " << options.database << "\n";
+		std::cout << "inspection page at " << emulator.url() << "/\n";
 		// Scripts and tests wait for this line to learn the port.
 		std::cout << "listening on " << emulator.url() << std::endl;
 

@@ -1,5 +1,5 @@
 // Injected faults: 503 before anything is applied, delayed replies, and replies dropped after the
-// commit, each counted; chosen from a seedable generator; never on the admin routes.
+// commit, each counted; chosen from a seedable generator; never on the page or the admin routes.
 #include "EmulatorTestServer.h"
 
 #include <gtest/gtest.h>
@@ -125,6 +125,7 @@ namespace quorvel::emulator::test
 	{
 		EmulatorTestServer emulator;
 		emulator.service.setFaultSettings({.failRate = 1});
+		EXPECT_EQ(emulator.get("/").status, 200);
 		EXPECT_EQ(emulator.get("/admin/faults").status, 200);
 		EXPECT_EQ(emulator.get("/admin/state").status, 200);
 		EXPECT_EQ(emulator.get("/admin/requests").status, 200);

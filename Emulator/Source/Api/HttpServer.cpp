@@ -7,6 +7,7 @@
 #include "Domain/Ids.h"
 #include "Domain/Platform.h"
 #include "Faults/ConnectionDrop.h"
+#include "Page/InspectionPage.h"
 
 #include <chrono>
 #include <cstdio>
@@ -71,6 +72,17 @@ namespace quorvel::emulator
 		{
 			response.set_header("X-Request-Id", newId("req"));
 			return httplib::Server::HandlerResponse::Unhandled;
+		});
+
+		server.Get("/", [this](const httplib::Request&, httplib::Response& response)
+		{
+			const PageContent content{
+				.state = this->platform.exportState(),
+				.faults = faultInjector.settings(),
+				.counts = faultInjector.counts(),
+				.requests = log.newestFirst(),
+			};
+			response.set_content(renderInspectionPage(content), "text/html; charset=utf-8");
 		});
 
 		addAdminRoutes(server, platform, faultInjector, log);

@@ -1,7 +1,7 @@
 // Carries platform requests over HTTP: POST with JSON bodies, "Authorization: Bearer <token>",
 // "Idempotency-Key", and an "X-Request-Id" on every reply so a client can quote it. Beside the
-// platform it serves the admin routes (Api/AdminRoutes.h), and injects the faults its
-// FaultInjector chooses into platform requests only.
+// platform it serves the inspection page at GET / and the admin routes (Api/AdminRoutes.h), and
+// injects the faults its FaultInjector chooses into platform requests only.
 #pragma once
 
 #include "Api/RequestLog.h"
