@@ -7,6 +7,7 @@
 
 #include <map>
 #include <string>
+#include <unordered_map>
 
 namespace
 {
@@ -40,14 +41,25 @@ namespace
 
 struct FSlateFontCache::FImpl
 {
+	struct FFace
+	{
+		FT_Face Face = nullptr;
+		/** The size last set on the face: setting it again would run the font's size program again. */
+		FT_F26Dot6 Size = -1;
+		/** Slot of this face in advance keys. */
+		uint64 Index = 0;
+	};
+
 	FT_Library Library = nullptr;
-	mutable std::map<std::string, FT_Face> Faces;
+	mutable std::map<std::string, FFace> Faces;
+	/** Pen advances already measured, by face, size and glyph: text is measured again on every layout. */
+	mutable std::unordered_map<uint64, float> Advances;
 
 	~FImpl()
 	{
-		for (auto& [Path, Face] : Faces)
+		for (auto& [Path, Entry] : Faces)
 		{
-			FT_Done_Face(Face);
+			FT_Done_Face(Entry.Face);
 		}
 		if (Library)
 		{
@@ -56,18 +68,50 @@ struct FSlateFontCache::FImpl
 	}
 
 	// The face for the font, sized in points at the render DPI times the scale, as the engine sizes it.
-	FT_Face GetSizedFace(const FSlateFontInfo& InFontInfo, float FontScale) const
+	FFace& GetSizedFace(const FSlateFontInfo& InFontInfo, float FontScale) const
 	{
 		const std::string Path = GetFontFilePath(InFontInfo.TypefaceFontName);
-		FT_Face& Face = Faces[Path];
-		if (!Face)
+		FFace& Entry = Faces[Path];
+		if (!Entry.Face)
 		{
-			const FT_Error Error = FT_New_Face(Library, Path.c_str(), 0, &Face);
+			const FT_Error Error = FT_New_Face(Library, Path.c_str(), 0, &Entry.Face);
 			checkf(Error == 0, "Cannot load the default font face");
+			Entry.Index = Faces.size() - 1;
 		}
 		const float Points = FMath::Max(InFontInfo.Size * FontScale, 0.0f);
-		FT_Set_Char_Size(Face, 0, FT_F26Dot6(Points * 64.0f + 0.5f), FontConstants::RenderDPI, FontConstants::RenderDPI);
-		return Face;
+		const FT_F26Dot6 Size = FT_F26Dot6(Points * 64.0f + 0.5f);
+		if (Size != Entry.Size)
+		{
+			FT_Set_Char_Size(Entry.Face, 0, Size, FontConstants::RenderDPI, FontConstants::RenderDPI);
+			Entry.Size = Size;
+		}
+		return Entry;
+	}
+
+	/** Glyphs rasterised already, by the same key, as the engine keeps them in its font atlas. */
+	mutable std::unordered_map<uint64, FSlateGlyphBitmap> Bitmaps;
+
+	/** One glyph of one face at one size. */
+	static uint64 GlyphKey(const FFace& Entry, uint32 GlyphIndex)
+	{
+		return (Entry.Index << 56) | (uint64(uint32(Entry.Size)) << 24) | (GlyphIndex & 0xFFFFFFu);
+	}
+
+	/** The hinted advance of a glyph at the face's current size, in whole pixels. */
+	float GetAdvance(const FFace& Entry, uint32 GlyphIndex) const
+	{
+		const uint64 Key = GlyphKey(Entry, GlyphIndex);
+		if (const auto Found = Advances.find(Key); Found != Advances.end())
+		{
+			return Found->second;
+		}
+		float Advance = 0.0f;
+		if (FT_Load_Glyph(Entry.Face, GlyphIndex, FT_LOAD_DEFAULT) == 0)
+		{
+			Advance = float(RoundTo26Dot6Pixel(Entry.Face->glyph->advance.x) >> 6);
+		}
+		Advances.emplace(Key, Advance);
+		return Advance;
 	}
 };
 
@@ -102,7 +146,8 @@ TArray<FShapedGlyphEntry> FSlateFontCache::ShapeLine(const FString& Text, int32 
 		return Glyphs;
 	}
 
-	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale);
+	const FImpl::FFace& Entry = Impl->GetSizedFace(InFontInfo, FontScale);
+	FT_Face Face = Entry.Face;
 	const bool bKerning = FT_HAS_KERNING(Face);
 	// Letter spacing is in thousandths of an em; the em in pixels is the face's pixel size.
 	const float EmPixels = InFontInfo.Size * FontScale * float(FontConstants::RenderDPI) / 72.0f;
@@ -127,14 +172,11 @@ TArray<FShapedGlyphEntry> FSlateFontCache::ShapeLine(const FString& Text, int32 
 			}
 		}
 
-		FShapedGlyphEntry& Entry = Glyphs.AddDefaulted_GetRef();
-		Entry.GlyphIndex = GlyphIndex;
-		Entry.XOffset = PenX;
-		if (FT_Load_Glyph(Face, GlyphIndex, FT_LOAD_DEFAULT) == 0)
-		{
-			Entry.XAdvance = float(RoundTo26Dot6Pixel(Face->glyph->advance.x) >> 6);
-		}
-		PenX += Entry.XAdvance;
+		FShapedGlyphEntry& Glyph = Glyphs.AddDefaulted_GetRef();
+		Glyph.GlyphIndex = GlyphIndex;
+		Glyph.XOffset = PenX;
+		Glyph.XAdvance = Impl->GetAdvance(Entry, GlyphIndex);
+		PenX += Glyph.XAdvance;
 		PreviousGlyph = GlyphIndex;
 	}
 	return Glyphs;
@@ -142,20 +184,27 @@ TArray<FShapedGlyphEntry> FSlateFontCache::ShapeLine(const FString& Text, int32 
 
 uint16 FSlateFontCache::GetMaxCharacterHeight(const FSlateFontInfo& InFontInfo, float FontScale) const
 {
-	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale);
+	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale).Face;
 	const FT_Pos Height = RoundTo26Dot6Pixel(Face->size->metrics.ascender) - RoundTo26Dot6Pixel(Face->size->metrics.descender);
 	return uint16(Height >> 6);
 }
 
 int16 FSlateFontCache::GetBaseline(const FSlateFontInfo& InFontInfo, float FontScale) const
 {
-	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale);
+	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale).Face;
 	return int16(RoundTo26Dot6Pixel(Face->size->metrics.descender) >> 6);
 }
 
 bool FSlateFontCache::RasterizeGlyph(uint32 GlyphIndex, const FSlateFontInfo& InFontInfo, float FontScale, FSlateGlyphBitmap& OutBitmap) const
 {
-	FT_Face Face = Impl->GetSizedFace(InFontInfo, FontScale);
+	const FImpl::FFace& Entry = Impl->GetSizedFace(InFontInfo, FontScale);
+	const uint64 Key = Impl->GlyphKey(Entry, GlyphIndex);
+	if (const auto Found = Impl->Bitmaps.find(Key); Found != Impl->Bitmaps.end())
+	{
+		OutBitmap = Found->second;
+		return true;
+	}
+	FT_Face Face = Entry.Face;
 	if (FT_Load_Glyph(Face, GlyphIndex, FT_LOAD_RENDER) != 0)
 	{
 		return false;
@@ -174,5 +223,6 @@ bool FSlateFontCache::RasterizeGlyph(uint32 GlyphIndex, const FSlateFontInfo& In
 			OutBitmap.Coverage[Row * OutBitmap.Width + Column] = Source[Column];
 		}
 	}
+	Impl->Bitmaps.emplace(Key, OutBitmap);
 	return true;
 }
