@@ -5,6 +5,7 @@
 #include "Containers/StringConv.h"
 #include "Emulator.h"
 #include "Headless/HeadlessEngine.h"
+#include "QuorvelLog.h"
 #include "QuorvelSettings.h"
 #include "QuorvelStashPanel.h"
 #include "UObject/Package.h"
@@ -163,6 +164,8 @@ int main(int argc, char** argv)
 	EmulatorOptions.seed = true;
 	GEmulator = std::make_unique<quorvel::emulator::Emulator>(EmulatorOptions);
 	GetMutableDefault<UQuorvelSettings>()->BaseUrl = UTF8_TO_TCHAR(GEmulator->url().c_str());
+	// Every load says so at Display; the run prints its table, not a line per load.
+	LogQuorvel.SetVerbosity(ELogVerbosity::Warning);
 
 	benchmark::RunSpecifiedBenchmarks();
 	benchmark::Shutdown();

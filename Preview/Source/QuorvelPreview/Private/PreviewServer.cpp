@@ -27,6 +27,15 @@ namespace
 		return Body.is_object() ? Body : FPreviewJson::object();
 	}
 
+	/** The two ends of a drag, in frame pixels; false when the body does not hold both. */
+	bool ReadDrag(const httplib::Request& Request, FVector2D& From, FVector2D& To)
+	{
+		const FPreviewJson Body = ParseBody(Request);
+		return ReadPoint(Body, "from", From) && ReadPoint(Body, "to", To);
+	}
+
+	constexpr const char* DragShape = "expected {\"from\": {\"x\", \"y\"}, \"to\": {\"x\", \"y\"}} in frame pixels";
+
 	void BadRequest(httplib::Response& Response, const std::string& Message)
 	{
 		Response.status = 400;
@@ -82,23 +91,21 @@ FPreviewServer::FPreviewServer(FPreviewScene& InScene, const std::filesystem::pa
 	});
 	Server.Post("/api/hover", [this](const httplib::Request& Request, httplib::Response& Response)
 	{
-		const FPreviewJson Body = ParseBody(Request);
 		FVector2D From;
 		FVector2D To;
-		if (!ReadPoint(Body, "from", From) || !ReadPoint(Body, "to", To))
+		if (!ReadDrag(Request, From, To))
 		{
-			return BadRequest(Response, "expected {\"from\": {\"x\", \"y\"}, \"to\": {\"x\", \"y\"}} in frame pixels");
+			return BadRequest(Response, DragShape);
 		}
 		Answer(Response, OnGameThread([this, From, To](FReply Reply) { Reply(Scene.Hover(From, To)); }, std::chrono::seconds(5)));
 	});
 	Server.Post("/api/drop", [this](const httplib::Request& Request, httplib::Response& Response)
 	{
-		const FPreviewJson Body = ParseBody(Request);
 		FVector2D From;
 		FVector2D To;
-		if (!ReadPoint(Body, "from", From) || !ReadPoint(Body, "to", To))
+		if (!ReadDrag(Request, From, To))
 		{
-			return BadRequest(Response, "expected {\"from\": {\"x\", \"y\"}, \"to\": {\"x\", \"y\"}} in frame pixels");
+			return BadRequest(Response, DragShape);
 		}
 		Answer(Response, OnGameThread([this, From, To](FReply Reply) { Scene.Drop(From, To, MoveTemp(Reply)); }, std::chrono::seconds(30)));
 	});
