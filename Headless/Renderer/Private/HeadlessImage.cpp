@@ -17,6 +17,14 @@ FHeadlessImage::FHeadlessImage(int32 InSizeX, int32 InSizeY, const FColor& Fill)
 	Pixels.Init(Fill, SizeX * SizeY);
 }
 
+FHeadlessImage::FHeadlessImage(int32 InSizeX, int32 InSizeY, TArray<FColor>&& InPixels)
+	: SizeX(FMath::Max(InSizeX, 0))
+	, SizeY(FMath::Max(InSizeY, 0))
+	, Pixels(MoveTemp(InPixels))
+{
+	check(Pixels.Num() == SizeX * SizeY);
+}
+
 FColor FHeadlessImage::GetPixel(int32 X, int32 Y) const
 {
 	check(X >= 0 && X < SizeX && Y >= 0 && Y < SizeY);
@@ -55,12 +63,10 @@ TArray<uint8> FHeadlessImage::EncodePng() const
 	Image.width = png_uint_32(SizeX);
 	Image.height = png_uint_32(SizeY);
 	Image.format = PNG_FORMAT_RGBA;
-	png_alloc_size_t Size = 0;
-	if (!png_image_write_get_memory_size(Image, Size, 0, Rgba.GetData(), 0, nullptr))
-	{
-		UE_LOG(LogHeadlessImage, Warning, TEXT("Could not encode a %dx%d image as PNG: %s"), SizeX, SizeY, *FString(Image.message));
-		return Result;
-	}
+	// Frames are encoded as they are shown (the preview sends one per move): speed over size, and
+	// one pass into a buffer big enough for any outcome rather than a first pass to measure it.
+	Image.flags = PNG_IMAGE_FLAG_FAST;
+	png_alloc_size_t Size = PNG_IMAGE_PNG_SIZE_MAX(Image);
 	Result.SetNumUninitialized(int32(Size));
 	if (!png_image_write_to_memory(&Image, Result.GetData(), &Size, 0, Rgba.GetData(), 0, nullptr))
 	{

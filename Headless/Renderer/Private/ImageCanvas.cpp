@@ -13,9 +13,10 @@ namespace UE::HeadlessRenderer::Private
 			return Clamped <= 0.0031308f ? Clamped * 12.92f : FMath::Pow(Clamped, 1.0f / 2.4f) * 1.055f - 0.055f;
 		}
 
+		/** Rounds to the nearest of 256 levels, as RoundToInt would, without its library call. */
 		uint8 Quantise(float Value)
 		{
-			return uint8(FMath::Clamp(FMath::RoundToInt(Value * 255.0f), 0, 255));
+			return uint8(FMath::Clamp(Value, 0.0f, 1.0f) * 255.0f + 0.5f);
 		}
 	}
 
@@ -38,15 +39,19 @@ namespace UE::HeadlessRenderer::Private
 		Pixels.Init(FPremultipliedColor::FromLinear(ClearColor), SizeX * SizeY);
 	}
 
-	void FImageCanvas::Blend(int32 X, int32 Y, const FPremultipliedColor& Source)
-	{
-		FPremultipliedColor& Target = Pixels[Y * SizeX + X];
-		const float Keep = 1.0f - Source.A;
-		Target = { Source.R + Target.R * Keep, Source.G + Target.G * Keep, Source.B + Target.B * Keep, Source.A + Target.A * Keep };
-	}
-
 	void FImageCanvas::FillQuad(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize,
 		TFunctionRef<FPremultipliedColor(const FVector2f&)> Shade)
+	{
+		FillQuadWith(LocalToCanvas, LocalSize, Shade);
+	}
+
+	void FImageCanvas::FillSolidQuad(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize, const FPremultipliedColor& Colour)
+	{
+		FillQuadWith(LocalToCanvas, LocalSize, [&Colour](const FVector2f&) { return Colour; });
+	}
+
+	template <typename TShade>
+	void FImageCanvas::FillQuadWith(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize, const TShade& Shade)
 	{
 		if (LocalSize.X <= 0.0f || LocalSize.Y <= 0.0f || FMath::Abs(LocalToCanvas.GetMatrix().Determinant()) < 1e-8f)
 		{
@@ -80,11 +85,27 @@ namespace UE::HeadlessRenderer::Private
 		const FVector2f AntiDiagonal = CanvasToLocal.TransformVector(FVector2f(0.5f, -0.5f));
 		const FVector2f Reach(FMath::Max(FMath::Abs(Diagonal.X), FMath::Abs(AntiDiagonal.X)), FMath::Max(FMath::Abs(Diagonal.Y), FMath::Abs(AntiDiagonal.Y)));
 
+		// The transform is affine: a step of one pixel is the same local step everywhere, so each
+		// pixel's centre and samples come from its row's start instead of a full transform each.
+		const FVector2f StepX = CanvasToLocal.TransformVector(FVector2f(1.0f, 0.0f));
+		const FVector2f StepY = CanvasToLocal.TransformVector(FVector2f(0.0f, 1.0f));
+		FVector2f SampleOffsets[SamplesPerAxis * SamplesPerAxis];
+		for (int32 SampleY = 0; SampleY < SamplesPerAxis; ++SampleY)
+		{
+			for (int32 SampleX = 0; SampleX < SamplesPerAxis; ++SampleX)
+			{
+				SampleOffsets[SampleY * SamplesPerAxis + SampleX] = StepX * ((float(SampleX) + 0.5f) / SamplesPerAxis - 0.5f)
+					+ StepY * ((float(SampleY) + 0.5f) / SamplesPerAxis - 0.5f);
+			}
+		}
+
 		for (int32 Y = StartY; Y < EndY; ++Y)
 		{
+			const FVector2f RowStart = CanvasToLocal.TransformPoint(FVector2f(float(StartX) + 0.5f, float(Y) + 0.5f));
+			FPremultipliedColor* Row = Pixels.GetData() + Y * SizeX;
 			for (int32 X = StartX; X < EndX; ++X)
 			{
-				const FVector2f Centre = CanvasToLocal.TransformPoint(FVector2f(float(X) + 0.5f, float(Y) + 0.5f));
+				const FVector2f Centre = RowStart + StepX * float(X - StartX);
 				if (Centre.X < -Reach.X || Centre.Y < -Reach.Y || Centre.X > LocalSize.X + Reach.X || Centre.Y > LocalSize.Y + Reach.Y)
 				{
 					continue;
@@ -93,15 +114,11 @@ namespace UE::HeadlessRenderer::Private
 				if (Centre.X < Reach.X || Centre.Y < Reach.Y || Centre.X > LocalSize.X - Reach.X || Centre.Y > LocalSize.Y - Reach.Y)
 				{
 					int32 Inside = 0;
-					for (int32 SampleY = 0; SampleY < SamplesPerAxis; ++SampleY)
+					for (const FVector2f& Offset : SampleOffsets)
 					{
-						for (int32 SampleX = 0; SampleX < SamplesPerAxis; ++SampleX)
-						{
-							const FVector2f Sample = CanvasToLocal.TransformPoint(FVector2f(
-								float(X) + (float(SampleX) + 0.5f) / SamplesPerAxis, float(Y) + (float(SampleY) + 0.5f) / SamplesPerAxis));
-							// Half-open, so that two rectangles sharing an edge cover its pixels once.
-							Inside += (Sample.X >= 0.0f && Sample.X < LocalSize.X && Sample.Y >= 0.0f && Sample.Y < LocalSize.Y) ? 1 : 0;
-						}
+						const FVector2f Sample = Centre + Offset;
+						// Half-open, so that two rectangles sharing an edge cover its pixels once.
+						Inside += (Sample.X >= 0.0f && Sample.X < LocalSize.X && Sample.Y >= 0.0f && Sample.Y < LocalSize.Y) ? 1 : 0;
 					}
 					if (Inside == 0)
 					{
@@ -110,23 +127,21 @@ namespace UE::HeadlessRenderer::Private
 					Coverage = float(Inside) / float(SamplesPerAxis * SamplesPerAxis);
 				}
 				const FVector2f Clamped(FMath::Clamp(Centre.X, 0.0f, LocalSize.X), FMath::Clamp(Centre.Y, 0.0f, LocalSize.Y));
-				Blend(X, Y, Shade(Clamped) * Coverage);
+				Blend(Row[X], Shade(Clamped) * Coverage);
 			}
 		}
 	}
 
 	FHeadlessImage FImageCanvas::ToImage() const
 	{
-		FHeadlessImage Image(SizeX, SizeY);
-		for (int32 Y = 0; Y < SizeY; ++Y)
+		TArray<FColor> Colours;
+		Colours.SetNumUninitialized(Pixels.Num());
+		for (int32 Index = 0; Index < Pixels.Num(); ++Index)
 		{
-			for (int32 X = 0; X < SizeX; ++X)
-			{
-				const FPremultipliedColor& Pixel = Pixels[Y * SizeX + X];
-				const float Unmultiply = Pixel.A > 0.0f ? 1.0f / Pixel.A : 0.0f;
-				Image.SetPixel(X, Y, FColor(Quantise(Pixel.R * Unmultiply), Quantise(Pixel.G * Unmultiply), Quantise(Pixel.B * Unmultiply), Quantise(Pixel.A)));
-			}
+			const FPremultipliedColor& Pixel = Pixels[Index];
+			const float Unmultiply = Pixel.A >= 1.0f ? 1.0f : Pixel.A > 0.0f ? 1.0f / Pixel.A : 0.0f;
+			Colours[Index] = FColor(Quantise(Pixel.R * Unmultiply), Quantise(Pixel.G * Unmultiply), Quantise(Pixel.B * Unmultiply), Quantise(Pixel.A));
 		}
-		return Image;
+		return FHeadlessImage(SizeX, SizeY, MoveTemp(Colours));
 	}
 }

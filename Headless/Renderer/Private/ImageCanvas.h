@@ -45,10 +45,25 @@ namespace UE::HeadlessRenderer::Private
 		void FillQuad(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize,
 			TFunctionRef<FPremultipliedColor(const FVector2f&)> Shade);
 
+		/** FillQuad with one colour all over, which most of a frame is. */
+		void FillSolidQuad(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize, const FPremultipliedColor& Colour);
+
 		FHeadlessImage ToImage() const;
 
 	private:
-		void Blend(int32 X, int32 Y, const FPremultipliedColor& Source);
+		template <typename TShade>
+		void FillQuadWith(const FSlateRenderTransform& LocalToCanvas, const FVector2f& LocalSize, const TShade& Shade);
+
+		/** Source over the pixel; a transparent source leaves it as it is. */
+		void Blend(FPremultipliedColor& Target, const FPremultipliedColor& Source)
+		{
+			if (Source.A <= 0.0f)
+			{
+				return;
+			}
+			const float Keep = 1.0f - Source.A;
+			Target = { Source.R + Target.R * Keep, Source.G + Target.G * Keep, Source.B + Target.B * Keep, Source.A + Target.A * Keep };
+		}
 
 		int32 SizeX = 0;
 		int32 SizeY = 0;

@@ -74,9 +74,10 @@ namespace
 		const bool bSliced = bBorder || Brush.DrawAs == ESlateBrushDrawType::Box;
 		const FMargin& Margin = Brush.GetMargin();
 		const FVector2f ImageSize = Brush.ImageSize;
-		if (!bSliced && Texture == nullptr)
+		// Without a texture, slicing only moves texture coordinates: the tint covers the whole box.
+		if (Texture == nullptr && !bBorder)
 		{
-			Canvas.FillQuad(Element.GetRenderTransform(), Size, [&Tint](const FVector2f&) { return Tint; });
+			Canvas.FillSolidQuad(Element.GetRenderTransform(), Size, Tint);
 			return;
 		}
 

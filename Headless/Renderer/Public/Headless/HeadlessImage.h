@@ -8,6 +8,8 @@ struct HEADLESSRENDERER_API FHeadlessImage
 {
 	FHeadlessImage() = default;
 	FHeadlessImage(int32 InSizeX, int32 InSizeY, const FColor& Fill = FColor::Transparent);
+	/** Takes the pixels, row by row from the top; there must be InSizeX * InSizeY of them. */
+	FHeadlessImage(int32 InSizeX, int32 InSizeY, TArray<FColor>&& InPixels);
 
 	int32 GetSizeX() const
 	{
