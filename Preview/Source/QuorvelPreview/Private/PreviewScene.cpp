@@ -93,7 +93,7 @@ namespace
 	}
 }
 
-/** The platform client's transport diagnostics (its retries), kept for the page. */
+/** The platform client's transport diagnostics (its retries), kept for the page, and the panels' refusals. */
 class FClientLogCapture final : public FOutputDevice
 {
 public:
@@ -120,10 +120,18 @@ public:
 				Lines.pop_front();
 			}
 		}
+		else if (Category == LogQuorvel.GetCategoryName() && Verbosity == ELogVerbosity::Warning)
+		{
+			LastRefusal = Message;
+			++Refusals;
+		}
 	}
 
 	std::deque<std::string> Lines;
 	int64 Total = 0;
+	/** A panel refuses a call it cannot make with one warning, and sends nothing. */
+	FString LastRefusal;
+	int64 Refusals = 0;
 };
 
 /** A move under way: which panel reports its outcome, and which panels an acceptance reloads. */
@@ -266,6 +274,7 @@ std::string FPreviewScene::GetPlatformUrl() const
 void FPreviewScene::Tick()
 {
 	Engine->Tick(1.0f / 60.0f);
+	// The character changed during this tick: drawn again and laid out before anyone sees the frame.
 	if (Inventory->Revision != DrawnRevision)
 	{
 		DrawnRevision = Inventory->Revision;
@@ -473,6 +482,7 @@ void FPreviewScene::Drop(const FVector2D& From, const FVector2D& To, std::functi
 		Move->Done = MoveTemp(Done);
 	};
 
+	const int64 RefusalsBefore = ClientLog->Refusals;
 	if (Source.Panel && Source.Stack && Target.Panel && Target.Panel != Source.Panel)
 	{
 		Start(TEXT("transfer"), Target.Panel, { Source.Panel, Target.Panel });
@@ -497,7 +507,10 @@ void FPreviewScene::Drop(const FVector2D& From, const FVector2D& To, std::functi
 			{ "state", State() } });
 		return;
 	}
-	CheckMove();
+	if (ClientLog->Refusals > RefusalsBefore)
+	{
+		FinishMove(TEXT("refused"), ClientLog->LastRefusal);
+	}
 }
 
 void FPreviewScene::CheckMove()
@@ -541,14 +554,7 @@ void FPreviewScene::CheckMove()
 void FPreviewScene::FinishMove(const FString& Outcome, const FString& Message)
 {
 	const std::unique_ptr<FMove> Finished = MoveTemp(Move);
-	// The answer carries the frame that shows the outcome.
-	Engine->Tick(0.0f);
-	if (Inventory->Revision != DrawnRevision)
-	{
-		DrawnRevision = Inventory->Revision;
-		Screen->Strip->Refresh();
-		Engine->Tick(0.0f);
-	}
+	// The answer carries the frame that shows the outcome: Tick has laid it out already.
 	RenderFrame();
 	Finished->Done({ { "operation", Utf8(Finished->Operation) }, { "outcome", Utf8(Outcome) }, { "message", Utf8(Message) }, { "state", State() } });
 }
