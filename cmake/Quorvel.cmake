@@ -16,18 +16,27 @@
 set(QUORVEL_GENERATED_DIR "${CMAKE_BINARY_DIR}/Generated")
 set(QUORVEL_CMAKE_DIR "${CMAKE_CURRENT_LIST_DIR}")
 
-# Headers that need the header tool: the ones that use a reflection macro or a dynamic delegate.
-function(_quorvel_reflected_headers OutVar)
+# Of the given headers, the ones that need the header tool: those that use a reflection macro or a
+# dynamic delegate.
+function(_quorvel_reflected_among OutVar)
 	set(Result "")
-	foreach(Dir IN LISTS ARGN)
-		file(GLOB_RECURSE Candidates CONFIGURE_DEPENDS "${Dir}/*.h")
-		foreach(Header IN LISTS Candidates)
-			file(STRINGS "${Header}" Hits REGEX "^[ \t]*(UCLASS|USTRUCT|UENUM|GENERATED_BODY|DECLARE_DYNAMIC_)" LIMIT_COUNT 1)
-			if(Hits)
-				list(APPEND Result "${Header}")
-			endif()
-		endforeach()
+	foreach(Header IN LISTS ARGN)
+		file(STRINGS "${Header}" Hits REGEX "^[ \t]*(UCLASS|USTRUCT|UENUM|GENERATED_BODY|DECLARE_DYNAMIC_)" LIMIT_COUNT 1)
+		if(Hits)
+			list(APPEND Result "${Header}")
+		endif()
 	endforeach()
+	set(${OutVar} "${Result}" PARENT_SCOPE)
+endfunction()
+
+# The headers under the given directories that need the header tool.
+function(_quorvel_reflected_headers OutVar)
+	set(Candidates "")
+	foreach(Dir IN LISTS ARGN)
+		file(GLOB_RECURSE Found CONFIGURE_DEPENDS "${Dir}/*.h")
+		list(APPEND Candidates ${Found})
+	endforeach()
+	_quorvel_reflected_among(Result ${Candidates})
 	set(${OutVar} "${Result}" PARENT_SCOPE)
 endfunction()
 
@@ -122,7 +131,8 @@ function(quorvel_add_automation_tests Name)
 endfunction()
 
 # quorvel_add_benchmark(Name SOURCES ... [DEPS ...])
-#   One Google Benchmark executable; its headers go through the header tool as a test's do.
+#   One Google Benchmark executable. The headers listed among its SOURCES that declare reflected
+#   types go through the header tool, as a test's do; a benchmark of plain C++ lists none.
 function(quorvel_add_benchmark Name)
 	cmake_parse_arguments(Arg "" "" "SOURCES;DEPS" ${ARGN})
 	find_package(benchmark REQUIRED)
@@ -130,7 +140,14 @@ function(quorvel_add_benchmark Name)
 	target_compile_definitions(${Name} PRIVATE "UE_MODULE_NAME=\"${Name}\"")
 	target_include_directories(${Name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
 	target_link_libraries(${Name} PRIVATE ${Arg_DEPS} benchmark::benchmark)
-	_quorvel_reflected_headers(Reflected "${CMAKE_CURRENT_SOURCE_DIR}")
+	set(Headers "")
+	foreach(Source IN LISTS Arg_SOURCES)
+		if(Source MATCHES "\\.h$")
+			get_filename_component(Header "${Source}" ABSOLUTE)
+			list(APPEND Headers "${Header}")
+		endif()
+	endforeach()
+	_quorvel_reflected_among(Reflected ${Headers})
 	if(Reflected)
 		_quorvel_reflect(${Name} ${Name} ${Reflected})
 	endif()

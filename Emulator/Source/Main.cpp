@@ -1,83 +1,96 @@
-// QuorvelEmulator: a local stand-in for the game-inventory platform.
-//   --port N    port on 127.0.0.1 (default 8787; 0 picks a free one)
-//   --db PATH   SQLite file that keeps state between runs (default: in memory)
-//   --seed      put a few stacks into the demo player's stash
-#include "HttpServer.h"
-#include "Platform.h"
-#include "Seed.h"
+// QuorvelEmulator: a local stand-in for the game-inventory platform. See usageLine in CommandLine.cpp
+// for the options; state is kept in Saved/Emulator/Platform.db unless --db says otherwise.
+#include "CommandLine.h"
+#include "Domain/Platform.h"
+#include "Emulator.h"
 
-#include <charconv>
-#include <cstdio>
+#include <csignal>
 #include <exception>
+#include <fstream>
 #include <iostream>
-#include <string>
-#include <string_view>
+
+#include <pthread.h>
 
 namespace
 {
-	struct Options
-	{
-		int port = 8787;
-		std::string database = ":memory:";
-		bool seed = false;
-	};
+	using namespace quorvel::emulator;
 
-	int usage()
+	int exportState(const EmulatorOptions& options)
 	{
-		std::cerr << "usage: QuorvelEmulator [--port N] [--db PATH] [--seed]\n";
-		return 2;
+		const std::unique_ptr<Platform> platform = openPlatform(options);
+		const std::string text = platform->exportState().dump(1, '\t') + "\n";
+		if (options.exportPath == "-")
+		{
+			std::cout << text << std::flush;
+			return 0;
+		}
+		std::ofstream file(options.exportPath, std::ios::binary | std::ios::trunc);
+		file << text;
+		file.close();
+		if (!file)
+		{
+			throw std::runtime_error(options.exportPath + ": cannot be written");
+		}
+		std::cout << "wrote the state to " << options.exportPath << "\n";
+		return 0;
 	}
 
-	bool parsePort(std::string_view text, int& port)
+	int serve(const EmulatorOptions& options)
 	{
-		const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), port);
-		return error == std::errc() && end == text.data() + text.size() && port >= 0 && port <= 65535;
+		// The stop signals are taken by sigwait below, so every thread must block them, from before the first starts.
+		sigset_t stopSignals;
+		sigemptyset(&stopSignals);
+		sigaddset(&stopSignals, SIGINT);
+		sigaddset(&stopSignals, SIGTERM);
+		sigaddset(&stopSignals, SIGHUP);
+		pthread_sigmask(SIG_BLOCK, &stopSignals, nullptr);
+		// A client that hangs up mid-reply, or a dropped connection, must cost a failed write, not the process.
+		std::signal(SIGPIPE, SIG_IGN);
+
+		Emulator emulator(options);
+		if (emulator.seededStacks() > 0)
+		{
+			std::cout << "seeded " << emulator.seededStacks() << " stack(s) into the demo stash\n";
+		}
+		std::cout << "state in " << options.database << "\n";
+		std::cout << "inspection page at " << emulator.url() << "/\n";
+		// Scripts and tests wait for this line to learn the port.
+		std::cout << "listening on " << emulator.url() << std::endl;
+
+		int received = 0;
+		sigwait(&stopSignals, &received);
+		std::cout << "stopping" << std::endl;
+		return 0;
 	}
 }
 
 int main(int argc, char** argv)
 {
-	Options options;
-	for (int i = 1; i < argc; ++i)
+	const std::vector<std::string> arguments(argv + 1, argv + argc);
+	for (const std::string& argument : arguments)
 	{
-		const std::string_view argument = argv[i];
-		const bool hasValue = i + 1 < argc;
-		if (argument == "--port" && hasValue && parsePort(argv[i + 1], options.port))
+		if (argument == "--help" || argument == "-h")
 		{
-			++i;
-		}
-		else if (argument == "--db" && hasValue)
-		{
-			options.database = argv[++i];
-		}
-		else if (argument == "--seed")
-		{
-			options.seed = true;
-		}
-		else
-		{
-			return usage();
+			std::cout << usageLine << "\n";
+			return 0;
 		}
 	}
+	std::string problem;
+	std::optional<EmulatorOptions> options = parseCommandLine(arguments, problem);
+	if (!options)
+	{
+		std::cerr << "QuorvelEmulator: " << problem << "\n" << usageLine << "\n";
+		return 2;
+	}
+	options->logRequests = true;
 
 	try
 	{
-		using namespace quorvel::emulator;
-		Platform platform(options.database);
-		if (options.seed)
-		{
-			std::cout << "seeded " << seedDemoStash(platform.database()) << " stack(s) into the demo stash\n";
-		}
-		HttpServer server(platform, true);
-		const int port = server.bind("127.0.0.1", options.port);
-		// Scripts and tests wait for this line to learn the port.
-		std::cout << "listening on http://127.0.0.1:" << port << std::endl;
-		server.run();
+		return options->exportPath.empty() ? serve(*options) : exportState(*options);
 	}
 	catch (const std::exception& error)
 	{
 		std::cerr << "QuorvelEmulator: " << error.what() << "\n";
 		return 1;
 	}
-	return 0;
 }

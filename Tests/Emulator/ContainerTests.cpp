@@ -1,12 +1,7 @@
-// Container ensure, persistence and the demo seed.
+// Container ensure: created once, with the layout it was first asked for.
 #include "EmulatorTestServer.h"
-#include "Seed.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include <unistd.h>
 
 namespace quorvel::emulator::test
 {
@@ -49,39 +44,5 @@ namespace quorvel::emulator::test
 		// Once it exists, the size asked for no longer matters.
 		emulator.ensureGrid(emulator.token, "stash", 3, 3);
 		EXPECT_EQ(emulator.post(path, {{"kind", "stash"}, {"layout", "grid"}, {"grid_width", 0}, {"grid_height", 0}}, emulator.token).status, 200);
-	}
-
-	TEST(EmulatorContainerTest, StateInADatabaseFileSurvivesARestart)
-	{
-		const std::filesystem::path file = std::filesystem::temp_directory_path()
-			/ ("quorvel-emulator-test-" + std::to_string(::getpid()) + ".db");
-		std::filesystem::remove(file);
-		Json before;
-		{
-			EmulatorTestServer emulator(file.string());
-			const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);
-			ASSERT_EQ(emulator.post("/v1/game/inventory/grant",
-				{{"container_id", stash["id"]}, {"item_id", "medkit"}, {"quantity", 3}}, emulator.token).status, 200);
-			before = emulator.ensureGrid(emulator.token, "stash", 4, 4);
-		}
-		{
-			EmulatorTestServer emulator(file.string());
-			EXPECT_EQ(emulator.ensureSlots(emulator.token, "stash", 9), before);
-		}
-		std::filesystem::remove(file);
-	}
-
-	TEST(EmulatorContainerTest, SeedFillsTheDemoStashOnlyWhileItIsEmpty)
-	{
-		EmulatorTestServer emulator;
-		const int added = seedDemoStash(emulator.platform.database());
-		EXPECT_GT(added, 0);
-		EXPECT_EQ(seedDemoStash(emulator.platform.database()), 0);
-
-		const Json stash = emulator.ensureSlots(emulator.signIn("demo_account"), "stash", 24);
-		EXPECT_EQ(stash["layout"], "grid");
-		EXPECT_EQ(stash["grid_width"], 10);
-		EXPECT_EQ(stash["grid_height"], 8);
-		EXPECT_EQ(static_cast<int>(stash["items"].size()), added);
 	}
 }

@@ -1,6 +1,6 @@
-// The demo content matches the emulator: every item it can hand out has a row and an icon.
-#include "ItemCatalog.h"
-#include "RequestFields.h"
+// The demo content matches the emulator: every item of the shipped catalog has a row and an icon.
+#include "Api/RequestFields.h"
+#include "Domain/ItemCatalog.h"
 
 #include <gtest/gtest.h>
 
@@ -58,14 +58,15 @@ namespace quorvel::emulator::test
 		EXPECT_EQ(contentFile(path, ".json"), std::filesystem::path("Content/Items/DT_StashItems.json"));
 	}
 
-	TEST(DemoContentTest, EveryItemTheEmulatorKnowsHasATableRowWithA64PixelIcon)
+	TEST(DemoContentTest, EveryItemOfTheShippedCatalogHasATableRowWithA64PixelIcon)
 	{
+		const ItemCatalog catalog = ItemCatalog::load("Content/Items/Catalog.json");
 		const Json table = Json::parse(readFile("Content/Items/DT_StashItems.json"));
 		ASSERT_TRUE(table["Rows"].is_array());
-		EXPECT_EQ(table["Rows"].size(), itemCatalog().size());
-		for (const ItemDefinition& item : itemCatalog())
+		EXPECT_EQ(table["Rows"].size(), catalog.items().size());
+		for (const ItemDefinition& item : catalog.items())
 		{
-			SCOPED_TRACE(std::string(item.id));
+			SCOPED_TRACE(item.id);
 			const auto row = std::find_if(table["Rows"].begin(), table["Rows"].end(),
 				[&](const Json& candidate) { return candidate.value("Name", "") == item.id; });
 			ASSERT_NE(row, table["Rows"].end());

@@ -1,38 +1,47 @@
 // The emulator on 127.0.0.1 and a port the system picks, with a client that speaks its protocol.
 #pragma once
 
-#include "HttpServer.h"
-#include "Platform.h"
+#include "Emulator.h"
 
 #include <httplib.h>
 
+#include <memory>
 #include <string>
-#include <thread>
 
 namespace quorvel::emulator::test
 {
 	struct HttpReply
 	{
 		int status = 0;
+		std::string text;
+		/** The text as JSON; discarded when it is not. */
 		Json body;
+		httplib::Headers headers;
 		std::string requestId;
 		bool replayed = false;
 
 		std::string errorCode() const { return body.at("error").at("code").get<std::string>(); }
+		std::string header(const std::string& name) const;
 	};
+
+	/** Port 0 and a fresh in-memory database, otherwise the defaults. */
+	EmulatorOptions testOptions();
 
 	class EmulatorTestServer
 	{
 	public:
-		/** Serves a fresh in-memory platform, or the given database file. Signs in the player
-		    "tester" before returning, which also proves the server is accepting. */
-		explicit EmulatorTestServer(const std::string& databasePath = ":memory:");
-		~EmulatorTestServer();
+		/** Serves a fresh in-memory platform, or what the options say. Signs in the player "tester"
+		    before returning. */
+		explicit EmulatorTestServer(const EmulatorOptions& options = testOptions());
 
 		HttpReply postText(const std::string& path, const std::string& body, const std::string& token = {},
-			const std::string& idempotencyKey = {});
+			const std::string& idempotencyKey = {}, const std::string& contentType = "application/json");
 		HttpReply post(const std::string& path, const Json& body, const std::string& token = {},
 			const std::string& idempotencyKey = {});
+		/** A post with an Idempotency-Key of its own, as a client sends each change it means to make. */
+		HttpReply change(const std::string& path, const Json& body, const std::string& token);
+		HttpReply get(const std::string& path);
+		HttpReply put(const std::string& path, const Json& body);
 
 		/** The access token of a fresh session for the ticket. */
 		std::string signIn(const std::string& ticket);
@@ -41,15 +50,22 @@ namespace quorvel::emulator::test
 		Json ensureGrid(const std::string& token, const std::string& kind, int width, int height);
 		Json ensureSlots(const std::string& token, const std::string& kind, int slots);
 
-		Platform platform;
+		/** A client of its own, for tests that need a second connection or raw results. */
+		std::unique_ptr<httplib::Client> newClient() const;
+
+		Emulator service;
 		std::string token; // the tester's
 
 	private:
-		HttpServer server;
-		std::thread thread;
+		HttpReply replyOf(const httplib::Result& result, const std::string& what);
+
 		std::unique_ptr<httplib::Client> client;
+		int keysUsed = 0;
 	};
 
 	/** The stacks of a container reply whose "id" is instanceId; null when absent. */
 	const Json* findStack(const Json& container, const std::string& instanceId);
+
+	/** Headers with a bearer token and, when given, an Idempotency-Key. */
+	httplib::Headers platformHeaders(const std::string& token, const std::string& idempotencyKey = {});
 }

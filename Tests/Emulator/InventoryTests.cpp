@@ -17,7 +17,7 @@ namespace quorvel::emulator::test
 				{
 					body["to"] = to;
 				}
-				return emulator.post("/v1/game/inventory/grant", body, emulator.token);
+				return emulator.change("/v1/game/inventory/grant", body, emulator.token);
 			}
 
 			/** The granted stack as the next container read shows it. */
@@ -37,7 +37,7 @@ namespace quorvel::emulator::test
 				{
 					body["to"] = to;
 				}
-				return emulator.post("/v1/game/inventory/move", body, emulator.token);
+				return emulator.change("/v1/game/inventory/move", body, emulator.token);
 			}
 
 			Json reread(const Json& container)
@@ -143,24 +143,63 @@ namespace quorvel::emulator::test
 		EXPECT_EQ(reread(stash)["items"].size(), 0u);
 	}
 
+	TEST_F(EmulatorInventoryTest, GrantRefusesMoreThanTheCatalogsStackLimitForTheItem)
+	{
+		const Json stash = emulator.ensureGrid(emulator.token, "stash", 6, 6);
+		const HttpReply tooMany = grant(stash, "medkit", 6);
+		EXPECT_EQ(tooMany.status, 422);
+		EXPECT_EQ(tooMany.errorCode(), "stack_limit_exceeded");
+		EXPECT_NE(tooMany.body["error"]["message"].get<std::string>().find("at most 5"), std::string::npos);
+		EXPECT_EQ(grant(stash, "rifle", 2).errorCode(), "stack_limit_exceeded");
+
+		EXPECT_EQ(granted(stash, "medkit", 5)["quantity"], 5);
+		EXPECT_EQ(granted(stash, "ammo_556", 120)["quantity"], 120);
+		EXPECT_EQ(reread(stash)["items"].size(), 2u);
+	}
+
+	TEST_F(EmulatorInventoryTest, APlayerCanNeitherReadNorChangeAnotherPlayersStacks)
+	{
+		const std::string mallory = emulator.signIn("mallory");
+		const Json theirs = emulator.ensureGrid(mallory, "stash", 4, 4);
+		const HttpReply planted = emulator.change("/v1/game/inventory/grant",
+			{{"container_id", theirs["id"]}, {"item_id", "medkit"}, {"quantity", 3}}, mallory);
+		ASSERT_EQ(planted.status, 200);
+		const std::string medkit = planted.body["instance"]["id"];
+
+		// The same kind names the tester's own container, which holds nothing of theirs.
+		const Json mine = emulator.ensureGrid(emulator.token, "stash", 4, 4);
+		EXPECT_NE(mine["id"], theirs["id"]);
+		EXPECT_EQ(mine["items"].size(), 0u);
+
+		const HttpReply consumed = emulator.change("/v1/game/inventory/consume", {{"instance_id", medkit}, {"quantity", 1}}, emulator.token);
+		EXPECT_EQ(consumed.status, 404);
+		EXPECT_EQ(consumed.errorCode(), "instance_not_found");
+		EXPECT_EQ(move(medkit, mine).errorCode(), "instance_not_found");
+		EXPECT_EQ(reread(mine)["items"].size(), 0u);
+
+		const Json stillTheirs = emulator.ensureGrid(mallory, "stash", 4, 4);
+		ASSERT_NE(findStack(stillTheirs, medkit), nullptr);
+		EXPECT_EQ((*findStack(stillTheirs, medkit))["quantity"], 3);
+	}
+
 	TEST_F(EmulatorInventoryTest, ConsumeTakesPartOfAStackAndRemovesTheStackOnceEmpty)
 	{
 		const Json stash = emulator.ensureGrid(emulator.token, "stash", 4, 4);
 		const std::string ammo = granted(stash, "ammo_556", 30)["id"];
 		const std::string consume = "/v1/game/inventory/consume";
 
-		const HttpReply part = emulator.post(consume, {{"instance_id", ammo}, {"quantity", 10}}, emulator.token);
+		const HttpReply part = emulator.change(consume, {{"instance_id", ammo}, {"quantity", 10}}, emulator.token);
 		EXPECT_EQ(part.status, 200);
 		EXPECT_EQ(part.body["remaining"], 20);
 		EXPECT_EQ((*findStack(reread(stash), ammo))["quantity"], 20);
 
-		const HttpReply tooMany = emulator.post(consume, {{"instance_id", ammo}, {"quantity", 21}}, emulator.token);
+		const HttpReply tooMany = emulator.change(consume, {{"instance_id", ammo}, {"quantity", 21}}, emulator.token);
 		EXPECT_EQ(tooMany.status, 409);
 		EXPECT_EQ(tooMany.errorCode(), "insufficient_quantity");
 
-		EXPECT_EQ(emulator.post(consume, {{"instance_id", ammo}, {"quantity", 20}}, emulator.token).status, 200);
+		EXPECT_EQ(emulator.change(consume, {{"instance_id", ammo}, {"quantity", 20}}, emulator.token).status, 200);
 		EXPECT_EQ(findStack(reread(stash), ammo), nullptr);
-		const HttpReply gone = emulator.post(consume, {{"instance_id", ammo}, {"quantity", 1}}, emulator.token);
+		const HttpReply gone = emulator.change(consume, {{"instance_id", ammo}, {"quantity", 1}}, emulator.token);
 		EXPECT_EQ(gone.status, 404);
 		EXPECT_EQ(gone.errorCode(), "instance_not_found");
 	}

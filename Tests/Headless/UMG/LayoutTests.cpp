@@ -114,12 +114,12 @@ TEST_F(LayoutTest, ACanvasAsksForTheSpaceItsChildrenTakeUntilASizeBoxOverridesIt
 	Root->SetContent(Sizer);
 	Show(Root);
 
-	EXPECT_EQ(Canvas->GetCachedWidget()->GetDesiredSize(), FVector2D(320.0, 210.0));
+	EXPECT_EQ(Canvas->GetDesiredSize(), FVector2D(320.0, 210.0));
 	EXPECT_EQ(ScreenRect(Canvas), FSlateRect(0.0f, 0.0f, 320.0f, 210.0f));
 
 	MakeSized(Sizer, 640.0f, 512.0f);
 	Viewport->Tick();
-	EXPECT_EQ(Sizer->GetCachedWidget()->GetDesiredSize(), FVector2D(640.0, 512.0));
+	EXPECT_EQ(Sizer->GetDesiredSize(), FVector2D(640.0, 512.0));
 	EXPECT_EQ(ScreenRect(Canvas), FSlateRect(0.0f, 0.0f, 640.0f, 512.0f));
 }
 

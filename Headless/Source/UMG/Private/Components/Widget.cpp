@@ -168,6 +168,15 @@ TSharedRef<SWidget> UWidget::TakeWidget()
 	return Built;
 }
 
+FVector2D UWidget::GetDesiredSize() const
+{
+	if (const TSharedPtr<SWidget> SafeWidget = MyWidget.Pin())
+	{
+		return SafeWidget->GetDesiredSize();
+	}
+	return FVector2D(0.0, 0.0);
+}
+
 TSharedPtr<SWidget> UWidget::GetCachedWidget() const
 {
 	// Whether or not a window has laid it out yet: until then its geometry is the default one.

@@ -67,6 +67,9 @@ public:
 	void SetRenderTransformAngle(float Angle);
 	float GetRenderTransformAngle() const;
 	void SetRenderTranslation(FVector2D Translation);
+
+	/** The size the Slate widget asked for at its last layout; zero before it has one. */
+	FVector2D GetDesiredSize() const;
 	void SetRenderTransformPivot(FVector2D Pivot);
 
 	/** The panel this widget is in, through its slot. */
