@@ -100,12 +100,16 @@ void FQuorvelStashPanelIconTests::Define()
 		TestNull(TEXT("Icon drawn"), IconDrawnFor(PanelWithRow(TEXT("Shield"), Row), TEXT("Shield")));
 	});
 
-	It("walks a derived row structure's own fields before its base's", [this]
+	It("walks a derived row structure's own fields, then its base's", [this]
 	{
 		FQuorvelTestDerivedIconRow Row;
 		Row.Icon = Sword;
 		Row.Image = Shield;
 		TestTrue(TEXT("The derived structure's image"), IconDrawnFor(PanelWithRow(TEXT("Shield"), Row), TEXT("Shield")) == Shield);
+		FQuorvelTestPlainDerivedRow Plain;
+		Plain.Description = TEXT("A sword");
+		Plain.Icon = Sword;
+		TestTrue(TEXT("The base structure's icon"), IconDrawnFor(PanelWithRow(TEXT("Sword"), Plain), TEXT("Sword")) == Sword);
 	});
 
 	It("labels every stack when the panel has no item table", [this]

@@ -85,3 +85,13 @@ struct FQuorvelTestDerivedIconRow : public FQuorvelTestBaseIconRow
 	UPROPERTY()
 	TObjectPtr<UTexture2D> Image;
 };
+
+/** No icon field of its own: its base structure's is found. */
+USTRUCT()
+struct FQuorvelTestPlainDerivedRow : public FQuorvelTestBaseIconRow
+{
+	GENERATED_BODY()
+
+	UPROPERTY()
+	FString Description;
+};
