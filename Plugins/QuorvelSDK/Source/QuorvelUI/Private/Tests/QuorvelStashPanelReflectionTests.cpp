@@ -97,8 +97,8 @@ void FQuorvelStashPanelReflectionTests::Define()
 					Property->HasAnyPropertyFlags(CPF_BlueprintReadOnly | CPF_DisableEditOnInstance | CPF_DisableEditOnTemplate));
 				TestFalse(*FString::Printf(TEXT("%s is transient or config"), Name), Property->HasAnyPropertyFlags(CPF_Transient | CPF_Config));
 			}
-			TestEqual(TEXT("Layout is one byte"), PanelProperty(TEXT("Layout"))->GetElementSize(), 1);
-			TestEqual(TEXT("CellSize is a float"), PanelProperty(TEXT("CellSize"))->GetElementSize(), 4);
+			TestEqual(TEXT("Layout is one byte"), PanelProperty(TEXT("Layout"))->GetSize(), 1);
+			TestEqual(TEXT("CellSize is a float"), PanelProperty(TEXT("CellSize"))->GetSize(), 4);
 		});
 
 #if WITH_EDITORONLY_DATA
