@@ -10,8 +10,9 @@
 #   directory of the call) that declare reflected types go through the header tool too, so tests
 #   can declare their own classes, structs and delegates.
 #
-# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds])
-#   A program that runs the engine automation tests inside MODULES headless, registered with CTest.
+# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds]
+#                              [EMULATOR_SETTING <Branch>:[<Section>]:<Key>] [FAIL_REGULAR_EXPRESSION regex])
+#   A program that runs the engine automation tests inside MODULES headless; each test is a CTest test.
 
 set(QUORVEL_GENERATED_DIR "${CMAKE_BINARY_DIR}/Generated")
 set(QUORVEL_CMAKE_DIR "${CMAKE_CURRENT_LIST_DIR}")
@@ -93,14 +94,21 @@ function(quorvel_add_test Name)
 	set_tests_properties(${Name} PROPERTIES TIMEOUT 300)
 endfunction()
 
-# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds])
+# quorvel_add_automation_tests(Name MODULES ... [FILTER prefix] [DEPS ...] [PROJECT dir] [TIMEOUT seconds]
+#                              [EMULATOR_SETTING <Branch>:[<Section>]:<Key>] [FAIL_REGULAR_EXPRESSION regex])
 #   The engine's automation tests that live inside MODULES (in their Private/Tests/), run headless by a
-#   small program around RunHeadlessAutomationTests and registered with CTest. The program starts the
-#   engine on PROJECT (default: the repository root) with MODULES as the project's modules, in that
-#   order, and runs the tests whose full names start with FILTER (default: all). DEPS are further
-#   libraries to link. Run it by hand with --list, --filter <prefix> or --project <dir>.
+#   small program around RunHeadlessAutomationTests. The program starts the engine on PROJECT (default:
+#   the repository root) with MODULES as the project's modules, in that order, and runs the tests whose
+#   full names start with FILTER (default: all). DEPS are further libraries to link. Run it by hand with
+#   --list, --filter <prefix>, --test <full name>, --project <dir> or engine switches such as -ini:...
+#   Each automation test becomes a CTest test of its own, under its full name and with the label Name:
+#   CTest asks the program for the list (--list) each time it runs, so the list never goes stale.
+#   EMULATOR_SETTING starts a platform emulator in the program, on a port the system picks, with its
+#   state in memory, and points that setting at it (-ini:<setting>=<url>) before the engine starts.
+#   A test whose output matches FAIL_REGULAR_EXPRESSION fails in CTest, whatever the program says: a
+#   test that would pass with only a note where it could not run, for instance.
 function(quorvel_add_automation_tests Name)
-	cmake_parse_arguments(Arg "" "FILTER;PROJECT;TIMEOUT" "MODULES;DEPS" ${ARGN})
+	cmake_parse_arguments(Arg "" "FILTER;PROJECT;TIMEOUT;EMULATOR_SETTING;FAIL_REGULAR_EXPRESSION" "MODULES;DEPS" ${ARGN})
 	if(NOT Arg_MODULES)
 		message(FATAL_ERROR "quorvel_add_automation_tests(${Name}): MODULES names the modules whose tests to run")
 	endif()
@@ -113,6 +121,12 @@ function(quorvel_add_automation_tests Name)
 	set(AUTOMATION_NAME "${Name}")
 	set(AUTOMATION_FILTER "${Arg_FILTER}")
 	set(AUTOMATION_PROJECT "${Arg_PROJECT}")
+	set(AUTOMATION_EMULATOR_SETTING "${Arg_EMULATOR_SETTING}")
+	if(Arg_EMULATOR_SETTING)
+		set(AUTOMATION_WITH_EMULATOR 1)
+	else()
+		set(AUTOMATION_WITH_EMULATOR 0)
+	endif()
 	string(JOIN ", " AUTOMATION_MODULES ${Arg_MODULES})
 	set(AUTOMATION_MODULE_NAMES "")
 	foreach(Module IN LISTS Arg_MODULES)
@@ -126,8 +140,21 @@ function(quorvel_add_automation_tests Name)
 	target_compile_definitions(${Name} PRIVATE "UE_MODULE_NAME=\"${Name}\"")
 	# The modules are linked whole: their tests register themselves as the program loads them.
 	target_link_libraries(${Name} PRIVATE Launch ${Arg_MODULES} ${Arg_DEPS})
-	add_test(NAME ${Name} COMMAND ${Name} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
-	set_tests_properties(${Name} PROPERTIES TIMEOUT ${Arg_TIMEOUT})
+	if(Arg_EMULATOR_SETTING)
+		target_link_libraries(${Name} PRIVATE EmulatorLib)
+	endif()
+
+	# Read by CTest in this directory: it lists the tests and adds one CTest test per automation test.
+	set(Loader "${CMAKE_CURRENT_BINARY_DIR}/${Name}Tests.cmake")
+	file(GENERATE OUTPUT "${Loader}" CONTENT "set(AutomationProgram [==[$<TARGET_FILE:${Name}>]==])
+set(AutomationName [==[${Name}]==])
+set(AutomationFilter [==[${Arg_FILTER}]==])
+set(AutomationWorkingDirectory [==[${CMAKE_SOURCE_DIR}]==])
+set(AutomationTimeout ${Arg_TIMEOUT})
+set(AutomationFailPattern [==[${Arg_FAIL_REGULAR_EXPRESSION}]==])
+include([==[${QUORVEL_CMAKE_DIR}/AutomationTestsList.cmake]==])
+")
+	set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${Loader}")
 endfunction()
 
 # quorvel_add_benchmark(Name SOURCES ... [DEPS ...])

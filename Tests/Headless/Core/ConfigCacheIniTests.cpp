@@ -1,3 +1,4 @@
+#include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
 #include "ProjectTreeFixture.h"
 
@@ -184,4 +185,30 @@ TEST_F(ConfigCacheIniTest, WrittenValuesChangeOnlyTheCachedConfig)
 	EXPECT_EQ(GetArray(TEXT("New"), TEXT("List")), (std::vector<std::string>{ "A", "B" }));
 	FConfigCacheIni::InitializeConfigSystem();
 	EXPECT_EQ(GetString(TEXT("S"), TEXT("Key")), "OnDisk");
+}
+
+TEST_F(ConfigCacheIniTest, IniSwitchesOfTheCommandLineOverrideTheirBranchAsItIsRead)
+{
+	const FString Previous(FCommandLine::Get());
+	FCommandLine::Set(TEXT("-nullrhi -ini:Engine:[S]:Key=Engine -INI:game:[/Script/Mod.Settings]:BaseUrl=http://127.0.0.1:4321/v1,[S]:Key=Set")
+		TEXT(" -ini:Game:[S]:Other=Second -ini:Game:Malformed=1,[S]:NoValue -Xini:Game:[S]:Other=NotASwitch"));
+	WriteGameIni("[S]\nKey=File\n+Key=Array\nKept=Yes\n");
+
+	// The last ']:' ends the section; a URL's own colons stay in the value.
+	EXPECT_EQ(GetString(TEXT("/Script/Mod.Settings"), TEXT("BaseUrl")), "http://127.0.0.1:4321/v1");
+	EXPECT_EQ(GetArray(TEXT("S"), TEXT("Key")), (std::vector<std::string>{ "Set" }));
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("Other")), "Second");
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("Kept")), "Yes");
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("NoValue")), "<absent>");
+	EXPECT_EQ(GetString(TEXT("Malformed"), TEXT("Malformed")), "<absent>");
+
+	// Written values still win until the branch is read again, which applies the switches anew.
+	GConfig->SetString(TEXT("S"), TEXT("Key"), TEXT("InMemory"), GGameIni);
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("Key")), "InMemory");
+	FConfigCacheIni::InitializeConfigSystem();
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("Key")), "Set");
+
+	FCommandLine::Set(*Previous);
+	FConfigCacheIni::InitializeConfigSystem();
+	EXPECT_EQ(GetString(TEXT("S"), TEXT("Key")), "File");
 }

@@ -62,6 +62,35 @@ namespace
 		EXPECT_EQ(SignIn->GetStatus(), EHttpRequestStatus::Processing);
 	}
 
+	TEST_F(FHttpTestTransportTest, TheRequestAddedDelegateHearsEachStartedRequestInsideProcessRequest)
+	{
+		TArray<FHttpRequestPtr> Added;
+		FHttpManager& Manager = FHttpModule::Get().GetHttpManager();
+		Manager.SetRequestAddedDelegate(FHttpManagerRequestAddedDelegate::CreateLambda([&Added](const FHttpRequestRef& Request)
+		{
+			Added.Add(Request);
+		}));
+
+		FHttpRequestRef First = Process(TEXT("GET"), "/first");
+		ASSERT_EQ(Added.Num(), 1);
+		EXPECT_EQ(Added[0], FHttpRequestPtr(First));
+		FHttpRequestRef Second = Process(TEXT("POST"), "/second");
+		ASSERT_EQ(Added.Num(), 2);
+		EXPECT_EQ(Added[1], FHttpRequestPtr(Second));
+
+		// A request that cannot start never reaches the manager.
+		FHttpRequestRef Unusable = MakeRequest(TEXT("GET"), "ftp://127.0.0.1/stash");
+		EXPECT_FALSE(Unusable->ProcessRequest());
+		EXPECT_EQ(Added.Num(), 2);
+
+		// Setting an unbound delegate stops it; answering and completing adds nothing.
+		Manager.SetRequestAddedDelegate(FHttpManagerRequestAddedDelegate());
+		Process(TEXT("GET"), "/third");
+		ASSERT_TRUE(Transport->Respond(0, 200, TEXT("{}")));
+		TickHttp();
+		EXPECT_EQ(Added.Num(), 2);
+	}
+
 	TEST_F(FHttpTestTransportTest, AnsweredRequestCompletesAtTheNextTickWithTheGivenReply)
 	{
 		FHttpRequestRef First = Process(TEXT("GET"), "/first");

@@ -10,6 +10,8 @@
 #include "Interfaces/IHttpRequest.h"
 #include "Interfaces/IHttpResponse.h"
 #include "Misc/AutomationTest.h"
+#include "Misc/CommandLine.h"
+#include "Misc/ConfigCacheIni.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +43,17 @@ bool FQuorvelRunnerTestFails::RunTest(const FString& Parameters)
 {
 	TestEqual(TEXT("Stack count"), 2, 3);
 	AddWarning(TEXT("icon missing"));
+	return true;
+}
+
+IMPLEMENT_SIMPLE_AUTOMATION_TEST(FQuorvelRunnerConfigReadsTheCommandLine, "QuorvelRunnerConfig.Reads the command line",
+	EAutomationTestFlags::EditorContext | EAutomationTestFlags::ProductFilter)
+
+bool FQuorvelRunnerConfigReadsTheCommandLine::RunTest(const FString& Parameters)
+{
+	FString Url(TEXT("<absent>"));
+	GConfig->GetString(TEXT("/Script/Runner.Settings"), TEXT("Url"), Url, GGameIni);
+	AddInfo(Url);
 	return true;
 }
 
@@ -200,4 +213,32 @@ TEST_F(HeadlessAutomationTest, TheCommandLineSetsFilterListAndProjectOverTheDefa
 	char* ListArgv[] = { Program, ListArgument, FilterArgument, FilterValue };
 	EXPECT_EQ(RunHeadlessAutomationTests(4, ListArgv, Options(TEXT(""))), 0);
 	EXPECT_EQ(Lines, (std::vector<std::string>{ "QuorvelRunnerOther.Passes" }));
+}
+
+TEST_F(HeadlessAutomationTest, OneTestIsPickedByItsWholeNameAndEngineSwitchesBecomeTheCommandLineTheConfigReads)
+{
+	const FString Previous(FCommandLine::Get());
+	FHeadlessAutomationOptions Parsed = Options(TEXT("QuorvelRunnerTest."));
+	const char* const Arguments[] = { "Runner", "-nullrhi", "--test", "quorvelrunnerconfig.reads the command line",
+		"-ini:Game:[/Script/Runner.Settings]:Url=http://127.0.0.1:9/v1" };
+	ASSERT_TRUE(ParseHeadlessAutomationCommandLine(5, Arguments, Parsed));
+	EXPECT_EQ(Utf8(Parsed.CommandLine), "-nullrhi -ini:Game:[/Script/Runner.Settings]:Url=http://127.0.0.1:9/v1");
+
+	EXPECT_EQ(RunHeadlessAutomationTests(Parsed), 0);
+	EXPECT_EQ(Utf8(FString(FCommandLine::Get())), Utf8(Parsed.CommandLine));
+	EXPECT_EQ(Lines, (std::vector<std::string>{
+		"PASS QuorvelRunnerConfig.Reads the command line",
+		"    Info: http://127.0.0.1:9/v1",
+		"1 passed, 0 failed",
+	}));
+
+	// The whole name, not a prefix of it.
+	Lines.clear();
+	FHeadlessAutomationOptions Prefix = Options(TEXT(""));
+	Prefix.TestName = TEXT("QuorvelRunnerTest.Pass");
+	EXPECT_EQ(RunHeadlessAutomationTests(Prefix), 1);
+	EXPECT_EQ(Lines, (std::vector<std::string>{ "No automation tests match 'QuorvelRunnerTest.Pass'.", "0 passed, 0 failed" }));
+
+	FCommandLine::Set(*Previous);
+	FConfigCacheIni::InitializeConfigSystem();
 }

@@ -199,3 +199,37 @@ TEST_F(WidgetDefaultsTest, AddingAChildToAnotherPanelMovesIt)
 	EXPECT_EQ(To->GetChildrenCount(), 0);
 	EXPECT_EQ(Image->Slot, nullptr);
 }
+
+TEST_F(WidgetDefaultsTest, GettersReadBackWhatTheSettersStored)
+{
+	UBorder* Border = Make<UBorder>();
+	EXPECT_EQ(Border->GetPadding(), FMargin(4.0f, 2.0f));
+	EXPECT_EQ(Border->GetHorizontalAlignment(), HAlign_Fill);
+	EXPECT_EQ(Border->GetVerticalAlignment(), VAlign_Fill);
+	Border->SetPadding(FMargin(16.0f));
+	Border->SetHorizontalAlignment(HAlign_Center);
+	Border->SetVerticalAlignment(VAlign_Bottom);
+	Border->SetToolTipText(FText::FromString(TEXT("Rope x3")));
+	EXPECT_EQ(Border->GetPadding(), FMargin(16.0f));
+	EXPECT_EQ(Border->GetHorizontalAlignment(), HAlign_Center);
+	EXPECT_EQ(Border->GetVerticalAlignment(), VAlign_Bottom);
+	EXPECT_EQ(Border->GetToolTipText().ToString(), FString(TEXT("Rope x3")));
+	EXPECT_TRUE(Make<UImage>()->GetToolTipText().IsEmpty());
+
+	UImage* Image = Make<UImage>();
+	EXPECT_EQ(Image->GetColorAndOpacity(), FLinearColor::White);
+	Image->SetColorAndOpacity(FLinearColor(1.0f, 1.0f, 1.0f, 0.04f));
+	EXPECT_EQ(Image->GetColorAndOpacity(), FLinearColor(1.0f, 1.0f, 1.0f, 0.04f));
+
+	UTextBlock* Text = Make<UTextBlock>();
+	EXPECT_FALSE(Text->GetAutoWrapText());
+	Text->SetAutoWrapText(true);
+	EXPECT_TRUE(Text->GetAutoWrapText());
+
+	USizeBox* Sizer = Make<USizeBox>();
+	EXPECT_EQ(Sizer->GetWidthOverride(), 0.0f);
+	Sizer->SetWidthOverride(640.0f);
+	Sizer->SetHeightOverride(512.0f);
+	EXPECT_EQ(Sizer->GetWidthOverride(), 640.0f);
+	EXPECT_EQ(Sizer->GetHeightOverride(), 512.0f);
+}

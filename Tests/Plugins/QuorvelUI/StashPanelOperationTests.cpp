@@ -199,41 +199,6 @@ namespace
 		EXPECT_TRUE(Panel->IsReady());
 	}
 
-	TEST_F(FStashPanelOperations, RefusalsWriteOneWarningAndDoNothingElse)
-	{
-		UQuorvelStashPanel* Unready = MakePanel();
-		UQuorvelStashPanel* Ready = MakeReadyPanel();
-		const int32 Sent = Transport.Num();
-		const std::string StatusBefore = StatusTextOf(Ready);
-		FLogCapture Log(TEXT("LogQuorvel"));
-
-		Unready->DepositItem(FName(TEXT("Medkit")));
-		Unready->WithdrawInstance(Instance(TEXT("i-1")));
-		Ready->WithdrawInstance(Instance(TEXT("")));
-		Ready->TransferFrom(nullptr, Instance(TEXT("i-1")));
-		Ready->TransferFrom(Unready, Instance(TEXT("")));
-		Unready->TransferFrom(Unready, Instance(TEXT("i-1")));
-		Ready->TransferFrom(Ready, Instance(TEXT("i-1")));
-
-		const TArray<std::string> Expected = {
-			"Warning: Deposit refused: the stash is not loaded yet.",
-			"Warning: Withdraw refused: no stash, or the stack has no instance id.",
-			"Warning: Withdraw refused: no stash, or the stack has no instance id.",
-			"Warning: Transfer refused: destination not loaded, no source panel, or the stack has no instance id.",
-			"Warning: Transfer refused: destination not loaded, no source panel, or the stack has no instance id.",
-			"Warning: Transfer refused: destination not loaded, no source panel, or the stack has no instance id.",
-			"Warning: Transfer refused: source and destination are the same panel.",
-		};
-		ASSERT_EQ(Log.Lines.Num(), Expected.Num());
-		for (int32 Index = 0; Index < Expected.Num(); ++Index)
-		{
-			EXPECT_EQ(Utf8(Log.Lines[Index]), Expected[Index]);
-		}
-		EXPECT_EQ(Transport.Num(), Sent);
-		EXPECT_EQ(StatusTextOf(Ready), StatusBefore);
-		EXPECT_EQ(Listener->Heard.Num(), 0);
-	}
-
 	TEST_F(FStashPanelOperations, ATransferMovesInOneRequestReloadsTheSourceFirstAndTheDestinationLast)
 	{
 		UQuorvelStashPanel* Source = MakeReadyPanel();

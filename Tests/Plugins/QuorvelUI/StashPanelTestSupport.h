@@ -6,17 +6,6 @@
 
 namespace StashPanelTest
 {
-	/** The names of a class's own registered properties, in declaration order. */
-	inline TArray<FString> OwnPropertyNames(const UClass* Class)
-	{
-		TArray<FString> Names;
-		for (TFieldIterator<FProperty> It(Class, EFieldIteratorFlags::ExcludeSuper); It; ++It)
-		{
-			Names.Add(It->GetName());
-		}
-		return Names;
-	}
-
 	inline FProperty* FindPropertyChecked(const UClass* Class, const TCHAR* Name)
 	{
 		FProperty* Property = Class->FindPropertyByName(FName(Name));

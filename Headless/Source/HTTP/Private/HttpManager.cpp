@@ -54,6 +54,12 @@ void FHttpManager::Initialize()
 void FHttpManager::AddRequest(const FHttpRequestRef& Request)
 {
 	Requests.AddUnique(Request);
+	RequestAddedDelegate.ExecuteIfBound(Request);
+}
+
+void FHttpManager::SetRequestAddedDelegate(const FHttpManagerRequestAddedDelegate& Delegate)
+{
+	RequestAddedDelegate = Delegate;
 }
 
 void FHttpManager::RemoveRequest(const FHttpRequestRef& Request)

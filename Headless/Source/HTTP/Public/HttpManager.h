@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Delegates/Delegate.h"
 #include "HttpFwd.h"
 #include "Templates/Function.h"
 #include "Templates/SharedPointer.h"
@@ -39,6 +40,9 @@ inline const TCHAR* LexToString(const EHttpFlushReason Reason)
 	}
 }
 
+/** Called from the thread that adds a request to the manager, as the request starts. */
+DECLARE_DELEGATE_OneParam(FHttpManagerRequestAddedDelegate, const FHttpRequestRef& /*Request*/);
+
 /**
  * Keeps every request in progress alive and hands the transports' results back to the game
  * thread: completions run only inside Tick, on the thread that calls it.
@@ -67,8 +71,12 @@ public:
 	/** From any thread; the task runs during the next Tick. */
 	void AddGameThreadTask(TFunction<void()>&& Task);
 
+	/** Replaces the one delegate told of every request added from now on; an unbound one stops it. */
+	void SetRequestAddedDelegate(const FHttpManagerRequestAddedDelegate& Delegate);
+
 protected:
 	TArray<FHttpRequestRef> Requests;
+	FHttpManagerRequestAddedDelegate RequestAddedDelegate;
 
 private:
 	friend class FHeadlessHttpRequest;

@@ -20,6 +20,8 @@ public class QuorvelUI : ModuleRules
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
 			"Json",
+			// The automation tests watch the HTTP manager to see what the panel sends.
+			"HTTP",
 		});
 	}
 }

@@ -1,6 +1,8 @@
 #include "Misc/ConfigCacheIni.h"
 
 #include "Misc/CString.h"
+#include "Misc/Char.h"
+#include "Misc/CommandLine.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
 
@@ -43,6 +45,74 @@ namespace
 			Result.AppendChar(Char);
 		}
 		return Result;
+	}
+}
+
+namespace
+{
+	/** The value of a switch that starts at Start: a quoted run, or everything up to the next blank. */
+	FString ReadSwitchValue(const FString& CommandLine, int32 Start)
+	{
+		if (Start < CommandLine.Len() && CommandLine[Start] == TEXT('"'))
+		{
+			int32 End = Start + 1;
+			while (End < CommandLine.Len() && CommandLine[End] != TEXT('"'))
+			{
+				++End;
+			}
+			return CommandLine.Mid(Start + 1, End - Start - 1);
+		}
+		int32 End = Start;
+		while (End < CommandLine.Len() && !FChar::IsWhitespace(CommandLine[End]))
+		{
+			++End;
+		}
+		return CommandLine.Mid(Start, End - Start);
+	}
+
+	/**
+	 * Applies the command line's "-ini:<Branch>:[Section]:Key=Value" switches for this branch, as the
+	 * engine does: several settings may share a switch, separated by commas; each sets its key,
+	 * replacing the values the file gave it; the last ']:' ends the section name.
+	 */
+	void OverrideFromCommandline(FConfigFile& File, const FString& BranchName)
+	{
+		const FString CommandLine(FCommandLine::Get());
+		const FString Switch = FString(TEXT("-ini:")) + BranchName + TEXT(":");
+		for (int32 Found = CommandLine.Find(Switch, ESearchCase::IgnoreCase); Found != INDEX_NONE;
+			Found = CommandLine.Find(Switch, ESearchCase::IgnoreCase, ESearchDir::FromStart, Found + Switch.Len()))
+		{
+			if (Found > 0 && !FChar::IsWhitespace(CommandLine[Found - 1]) && CommandLine[Found - 1] != TEXT('"'))
+			{
+				continue;
+			}
+			TArray<FString> Settings;
+			ReadSwitchValue(CommandLine, Found + Switch.Len()).ParseIntoArray(Settings, TEXT(","), true);
+			for (const FString& Setting : Settings)
+			{
+				FString SectionAndKey;
+				FString Value;
+				if (!Setting.Split(TEXT("="), &SectionAndKey, &Value))
+				{
+					continue;
+				}
+				const int32 SectionEnd = SectionAndKey.Find(TEXT("]:"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+				if (SectionEnd == INDEX_NONE || SectionEnd == 0)
+				{
+					continue;
+				}
+				const FString Section = SectionAndKey.Left(SectionEnd).Replace(TEXT("["), TEXT("")).Replace(TEXT("]"), TEXT(""));
+				const FName Key(*SectionAndKey.Mid(SectionEnd + 2));
+				if (Key.IsNone())
+				{
+					continue;
+				}
+				FConfigSection& Target = File.FindOrAdd(Section);
+				Target.Remove(Key);
+				Target.Add(Key, Value);
+				UE_LOG(LogConfig, Log, TEXT("Command line sets [%s] %s in %s"), *Section, *Key.ToString(), *BranchName);
+			}
+		}
 	}
 }
 
@@ -218,6 +288,7 @@ FConfigFile* FConfigCacheIni::Find(const FString& Filename)
 			// A project need not configure anything: its settings then keep their defaults.
 			UE_LOG(LogConfig, Log, TEXT("No %s config at %s; using defaults"), *Filename, *Path);
 		}
+		OverrideFromCommandline(*File, Filename);
 	}
 	else if (!File->Read(Filename))
 	{

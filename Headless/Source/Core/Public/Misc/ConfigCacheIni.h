@@ -4,7 +4,9 @@
 //
 // A config is named either by a branch ("Game", the value of GGameIni), which reads
 // Default<Branch>.ini from the project's Config directory, or by the path of an ini file. Files are
-// read the first time they are asked for; a missing branch file is an empty config.
+// read the first time they are asked for; a missing branch file is an empty config. As in the
+// engine, a branch takes the command line's overrides over its file as it is read:
+//   -ini:Game:[/Script/Module.Class]:Key=Value,[Section]:OtherKey=Value
 #pragma once
 
 #include "CoreTypes.h"

@@ -4,6 +4,7 @@
 #include "HAL/PlatformTime.h"
 #include "Headless/HeadlessHttp.h"
 #include "Misc/AutomationTest.h"
+#include "Misc/CommandLine.h"
 #include "Misc/OutputDeviceRedirector.h"
 
 #include <cstdio>
@@ -11,7 +12,7 @@
 
 namespace
 {
-	const char* const Usage = "usage: %s [--filter <prefix>[+<prefix>...]] [--list] [--project <dir>]\n";
+	const char* const Usage = "usage: %s [--filter <prefix>[+<prefix>...]] [--test <full name>] [--list] [--project <dir>] [-<engine switch>...]\n";
 
 	void PrintLine(const FHeadlessAutomationOptions& Options, const FString& Line)
 	{
@@ -43,18 +44,20 @@ namespace
 		return Prefixes;
 	}
 
-	TArray<FAutomationTestInfo> FindTests(const FString& Filter)
+	TArray<FAutomationTestInfo> FindTests(const FHeadlessAutomationOptions& Options)
 	{
-		const TArray<FString> Prefixes = ParseFilter(Filter);
+		const TArray<FString> Prefixes = ParseFilter(Options.Filter);
 		TArray<FAutomationTestInfo> AllTests;
 		FAutomationTestFramework::Get().GetValidTestNames(AllTests);
 		TArray<FAutomationTestInfo> Matching;
 		for (const FAutomationTestInfo& Test : AllTests)
 		{
-			const bool bMatches = Prefixes.Num() == 0 || Prefixes.ContainsByPredicate([&Test](const FString& Prefix)
-			{
-				return Test.GetFullTestPath().StartsWith(Prefix, ESearchCase::IgnoreCase);
-			});
+			const bool bMatches = !Options.TestName.IsEmpty()
+				? Test.GetFullTestPath().Equals(Options.TestName, ESearchCase::IgnoreCase)
+				: Prefixes.Num() == 0 || Prefixes.ContainsByPredicate([&Test](const FString& Prefix)
+				{
+					return Test.GetFullTestPath().StartsWith(Prefix, ESearchCase::IgnoreCase);
+				});
 			if (bMatches)
 			{
 				Matching.Add(Test);
@@ -123,9 +126,19 @@ bool ParseHeadlessAutomationCommandLine(int32 ArgC, const char* const* ArgV, FHe
 			Options.bListOnly = true;
 			continue;
 		}
+		if (Argument[0] == '-' && Argument[1] != '-' && Argument[1] != '\0')
+		{
+			if (!Options.CommandLine.IsEmpty())
+			{
+				Options.CommandLine += TEXT(" ");
+			}
+			Options.CommandLine += UTF8_TO_TCHAR(Argument);
+			continue;
+		}
 		const bool bFilter = std::strcmp(Argument, "--filter") == 0;
+		const bool bTest = std::strcmp(Argument, "--test") == 0;
 		const bool bProject = std::strcmp(Argument, "--project") == 0;
-		if (!bFilter && !bProject)
+		if (!bFilter && !bTest && !bProject)
 		{
 			std::fprintf(stderr, "Unknown argument '%s'\n", Argument);
 			std::fprintf(stderr, Usage, Program);
@@ -138,18 +151,23 @@ bool ParseHeadlessAutomationCommandLine(int32 ArgC, const char* const* ArgV, FHe
 			return false;
 		}
 		const FString Value(UTF8_TO_TCHAR(ArgV[++Index]));
-		(bFilter ? Options.Filter : Options.EngineOptions.ProjectDirectory) = Value;
+		(bFilter ? Options.Filter : (bTest ? Options.TestName : Options.EngineOptions.ProjectDirectory)) = Value;
 	}
 	return true;
 }
 
 int32 RunHeadlessAutomationTests(const FHeadlessAutomationOptions& Options)
 {
+	// Before the engine starts: its config system reads the -ini: switches as each branch is read.
+	if (!Options.CommandLine.IsEmpty())
+	{
+		FCommandLine::Set(*Options.CommandLine);
+	}
 	FHeadlessEngine Engine(Options.EngineOptions);
-	const TArray<FAutomationTestInfo> Tests = FindTests(Options.Filter);
+	const TArray<FAutomationTestInfo> Tests = FindTests(Options);
 	if (Tests.Num() == 0)
 	{
-		PrintLine(Options, FString::Printf(TEXT("No automation tests match '%s'."), *Options.Filter));
+		PrintLine(Options, FString::Printf(TEXT("No automation tests match '%s'."), Options.TestName.IsEmpty() ? *Options.Filter : *Options.TestName));
 	}
 
 	if (Options.bListOnly)

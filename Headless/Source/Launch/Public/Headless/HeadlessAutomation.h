@@ -14,6 +14,10 @@ struct FHeadlessAutomationOptions
 {
 	/** Prefixes of full test names, separated by '+' and matched without regard to case; empty runs all. */
 	FString Filter;
+	/** One test's full name, matched whole without regard to case; when set, Filter is not used. */
+	FString TestName;
+	/** The engine's command line (FCommandLine), set before the engine starts when not empty. */
+	FString CommandLine;
 	/** Print the names of the matching tests instead of running them. */
 	bool bListOnly = false;
 	/** The project directory and the project modules whose tests are run. */
@@ -27,7 +31,8 @@ struct FHeadlessAutomationOptions
 };
 
 /**
- * Reads --filter, --list and --project into Options (other fields keep their values); false, with a
+ * Reads --filter, --test, --list and --project into Options, and appends engine switches (arguments
+ * with a single leading dash) to its CommandLine; other fields keep their values. False, with a
  * message on standard error, for an unknown argument or one without its value.
  */
 LAUNCH_API bool ParseHeadlessAutomationCommandLine(int32 ArgC, const char* const* ArgV, FHeadlessAutomationOptions& Options);

@@ -40,6 +40,21 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance")
 	FVector2D DesiredSizeScale;
 
+	FMargin GetPadding() const
+	{
+		return Padding;
+	}
+
+	EHorizontalAlignment GetHorizontalAlignment() const
+	{
+		return HorizontalAlignment;
+	}
+
+	EVerticalAlignment GetVerticalAlignment() const
+	{
+		return VerticalAlignment;
+	}
+
 	void SetPadding(FMargin InPadding);
 	void SetHorizontalAlignment(EHorizontalAlignment InHorizontalAlignment);
 	void SetVerticalAlignment(EVerticalAlignment InVerticalAlignment);

@@ -22,6 +22,11 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Appearance")
 	FLinearColor ColorAndOpacity;
 
+	const FLinearColor& GetColorAndOpacity() const
+	{
+		return ColorAndOpacity;
+	}
+
 	void SetColorAndOpacity(FLinearColor InColorAndOpacity);
 	void SetOpacity(float InOpacity);
 

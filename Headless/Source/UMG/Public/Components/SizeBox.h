@@ -30,6 +30,16 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Child Layout", meta = (EditCondition = "bOverride_HeightOverride"))
 	float HeightOverride = 0.0f;
 
+	float GetWidthOverride() const
+	{
+		return WidthOverride;
+	}
+
+	float GetHeightOverride() const
+	{
+		return HeightOverride;
+	}
+
 	void SetWidthOverride(float InWidthOverride);
 	void ClearWidthOverride();
 	void SetHeightOverride(float InHeightOverride);

@@ -24,6 +24,11 @@ public:
 	/** How lines are placed across the widget's width. */
 	virtual void SetJustification(ETextJustify::Type InJustification);
 
+	bool GetAutoWrapText() const
+	{
+		return AutoWrapText;
+	}
+
 	/** Whether lines break to fit the width the widget was last given. */
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Wrapping")
 	bool AutoWrapText;

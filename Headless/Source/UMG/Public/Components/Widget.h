@@ -53,6 +53,12 @@ public:
 
 	void SetRenderOpacity(float InOpacity);
 
+	/** The tooltip text for the widget. */
+	FText GetToolTipText() const
+	{
+		return ToolTipText;
+	}
+
 	void SetToolTipText(const FText& InToolTipText);
 
 	void SetRenderTransform(FWidgetTransform InTransform);
