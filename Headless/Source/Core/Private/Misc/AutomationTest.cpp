@@ -486,7 +486,7 @@ void FAutomationTestOutputDevice::Serialize(const TCHAR* V, ELogVerbosity::Type 
 {
 	FAutomationTestBase* const Test = CurTest.load();
 	const ELogVerbosity::Type Level = ELogVerbosity::Type(Verbosity & ELogVerbosity::VerbosityMask);
-	if (Test == nullptr || Level == ELogVerbosity::NoLogging || Test->SuppressLogs() || !Test->ShouldCaptureLogCategory(Category))
+	if (Test == nullptr || Level == ELogVerbosity::NoLogging || Test->SuppressLogs())
 	{
 		return;
 	}

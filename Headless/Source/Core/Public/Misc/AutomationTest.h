@@ -610,11 +610,6 @@ public:
 		return true;
 	}
 
-	virtual bool ShouldCaptureLogCategory(const FName& Category) const
-	{
-		return true;
-	}
-
 	// Expectations. Each records an error naming What when it fails and returns false; the test goes on.
 
 	CORE_API bool TestEqual(const TCHAR* What, const int32 Actual, const int32 Expected);
